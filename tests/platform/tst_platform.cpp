@@ -128,8 +128,8 @@ private Q_SLOTS:
     void translationLocale()
     {
         QCOMPARE(Dax::translationLocale(), QByteArray("en_GB"));
-        // This test does not load the widget library, so its translation is missing.
-        QTest::ignoreMessage(QtWarningMsg, "Dax::setTranslationLocale: no library translation for de_DE");
+        // Whether the widget library (and its translation) is loaded depends on the
+        // linker here; the widget tests check the translated texts.
         Dax::setTranslationLocale("de_DE", "nothing-here");
         QCOMPARE(Dax::translationLocale(), QByteArray("de_DE"));
         QCOMPARE(QLocale().name(), QStringLiteral("de_DE"));

@@ -139,7 +139,10 @@ OrvMessageDialogHelper::Button OrvMessageDialogHelper::showMessage(QWidget* pare
     connect(m_dialog, &QDialog::rejected, this, &OrvMessageDialogHelper::slotCancel);
     // A parent destroyed while the question is open takes the dialog with it:
     // end the loop with Cancel instead of waiting forever.
-    connect(m_dialog, &QObject::destroyed, this, &OrvMessageDialogHelper::slotCancel);
+    connect(m_dialog, &QObject::destroyed, this, [this] {
+        m_dialog = nullptr; // half destroyed: must not be touched any more
+        slotCancel();
+    });
 
     QEventLoop loop;
     connect(this, &OrvMessageDialogHelper::signalQuitEventLoop, &loop, &QEventLoop::quit, Qt::QueuedConnection);
