@@ -207,7 +207,7 @@ private Q_SLOTS:
         tabs.slotTabCloseRequested(0);
         QTRY_VERIFY(!inner);
         QTRY_COMPARE(tabs.count(), 0);
-        QVERIFY(!tabs.isVisible()); // an empty primary widget hides
+        QTRY_VERIFY(!tabs.isVisible()); // an empty primary widget hides
     }
 
     void destroyingPagesRemovesTabs()

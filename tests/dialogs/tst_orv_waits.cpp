@@ -1,4 +1,5 @@
 #include <orv_dialog.h>
+#include <orv_dialog_helper.h>
 #include <orv_global_wait_dialog.h>
 #include <orv_overlay_loading.h>
 #include <orv_progress_dialog_helper.h>

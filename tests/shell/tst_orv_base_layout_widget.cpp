@@ -329,6 +329,8 @@ private Q_SLOTS:
         QCOMPARE(shell.toolBarActions(), QStringList({"a", "later"}));
         shell.setFunctionKeys({{Qt::Key_F5, "later"}});
         QCOMPARE(shell.functionKeys().value(Qt::Key_F5), QStringLiteral("later"));
+        shell.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&shell));
         QTest::keyClick(&shell, Qt::Key_F5);
         QCOMPARE(created, 1);
         QVERIFY(shell.getWidget("G", "later", eDialogTab));

@@ -117,6 +117,7 @@ private Q_SLOTS:
     void styleAndTexts()
     {
         OrvBaseLayoutWidget shell(nullptr, true);
+        shell.show();
         shell.showMessage("T", "x", OrvNotificationBox::Warning);
         OrvNotificationBox* box = shell.notificationBox();
         QCOMPARE(box->size(), QSize(670, 130));
@@ -135,6 +136,7 @@ private Q_SLOTS:
     void boxDestroyedFromOutsideIsRecreated()
     {
         OrvBaseLayoutWidget shell(nullptr, true);
+        shell.show();
         shell.showMessage("A", "a", OrvNotificationBox::Info);
         delete shell.notificationBox();
         QVERIFY(!shell.notificationBox());
@@ -281,12 +283,14 @@ private Q_SLOTS:
         QCOMPARE(master->sizes(), before);
 
         shell.addWidget(new Page, "G", "a", eDialogTab, true, true);
+        auto* main = shell.findChild<QSplitter*>("mainSplitter");
+        QTest::qWait(50);
+        const QList<int> shown = main->sizes();
         shell.onHideAnimated();
         QTRY_VERIFY(!shell.isWidgetsHidden()); // the dialog area is hidden at the end
         shell.onReShowAnimated();
         QVERIFY(shell.isWidgetsHidden());
-        auto* main = shell.findChild<QSplitter*>("mainSplitter");
-        QTRY_VERIFY(main->sizes().last() > 1);
+        QTRY_COMPARE(main->sizes(), shown);
 
         shell.setTopBarVisible(false);
         QVERIFY(!shell.isTopBarVisible());

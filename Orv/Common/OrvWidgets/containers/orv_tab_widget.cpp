@@ -341,7 +341,7 @@ void OrvTabWidget::addWidget(QString key, QWidget* widget, bool closable, bool f
                     Qt::ConnectionType(Qt::QueuedConnection | Qt::UniqueConnection));
         }
     }
-    connect(widget, &QObject::destroyed, this, &OrvTabWidget::onRemoveTab, Qt::DirectConnection);
+    connect(widget, &QObject::destroyed, this, &OrvTabWidget::onWidgetDestroyed, Qt::DirectConnection);
     connect(widget, &QWidget::windowTitleChanged, this, &OrvTabWidget::slotWindowTitleChanged);
 
     m_tabMap.insert(key, widget);
@@ -519,6 +519,20 @@ void OrvTabWidget::onRemoveTab(QObject* object)
     onCheckTabBarVisibility();
 }
 
+void OrvTabWidget::onWidgetDestroyed(QObject* object)
+{
+    // A page being destroyed must not be touched: the stacked widget drops its tab
+    // by itself once the child is gone, so only the key is forgotten here and the
+    // emptiness check waits for that.
+    for (auto it = m_tabMap.begin(); it != m_tabMap.end(); ++it) {
+        if (it.value() == object) {
+            m_tabMap.erase(it);
+            break;
+        }
+    }
+    QMetaObject::invokeMethod(this, &OrvTabWidget::onCheckTabBarVisibility, Qt::QueuedConnection);
+}
+
 void OrvTabWidget::onCheckTabBarVisibility()
 {
     if (count() > 0)
@@ -545,7 +559,7 @@ bool OrvTabWidget::removeWidget(QWidget* widget)
         }
         if (value == widget) {
             m_tabMap.erase(it);
-            disconnect(widget, &QObject::destroyed, this, &OrvTabWidget::onRemoveTab);
+            disconnect(widget, &QObject::destroyed, this, &OrvTabWidget::onWidgetDestroyed);
             return true;
         }
     }
@@ -617,7 +631,7 @@ void OrvTabWidget::clearAll()
 {
     for (int i = 0; i < count(); ++i) {
         if (QWidget* w = widget(i)) {
-            disconnect(w, &QObject::destroyed, this, &OrvTabWidget::onRemoveTab);
+            disconnect(w, &QObject::destroyed, this, &OrvTabWidget::onWidgetDestroyed);
             w->deleteLater();
         }
     }

@@ -102,6 +102,7 @@ public Q_SLOTS:
 
 private Q_SLOTS:
     void slotWindowTitleChanged(const QString& title);
+    void onWidgetDestroyed(QObject* object);
 
 private:
     void addWidget(QString key, QWidget* widget, bool closable, bool focus);
