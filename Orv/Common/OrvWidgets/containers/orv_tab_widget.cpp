@@ -228,11 +228,11 @@ OrvTabWidget::OrvTabWidget(QWidget* parent, bool isSecondary)
 
 OrvTabWidget::~OrvTabWidget()
 {
-    // Pages still hosted here go down with us; their destroyed() must not call back.
-    for (int i = 0; i < count(); ++i) {
-        if (QWidget* w = widget(i))
-            disconnect(w, nullptr, this, nullptr);
-    }
+    // Pages still here (also ones whose tab was removed) go down with us; their
+    // destroyed() must not call back into a half-destroyed tab widget.
+    const QList<QWidget*> children = findChildren<QWidget*>();
+    for (QWidget* w : children)
+        disconnect(w, nullptr, this, nullptr);
 }
 
 OrvTabBar* OrvTabWidget::tabBar() const
@@ -511,9 +511,11 @@ void OrvTabWidget::onRemoveTab(QObject* object)
             break;
         }
     }
-    if (index >= 0)
+    if (index >= 0) {
         removeTab(index);
-    else if (found)
+        // No longer ours to track; it stays a hidden child until deleted.
+        disconnect(object, nullptr, this, nullptr);
+    } else if (found)
         qCWarning(lcTabs) << "OrvTabWidget::onRemoveTab: cannot remove widget, as it was not found on the tab widget"
                           << object;
     onCheckTabBarVisibility();

@@ -196,14 +196,13 @@ public:
 
     void retranslateUi(QWidget*)
     {
-        auto tr = [](const char* text) { return QCoreApplication::translate("OrvBaseLayoutWidget", text); };
-        pbPlanning->setText(tr("Planning"));
-        pbExecution->setText(tr("Execution"));
-        pbAfterAction->setText(tr("After Action"));
-        pbSpecial->setText(tr("Special"));
-        pbDebug->setToolTip(tr("Debug functions"));
-        lbCurrentTime->setToolTip(tr("Current time"));
-        lbExerciseTime->setToolTip(tr("Exercise time"));
+        pbPlanning->setText(QCoreApplication::translate("OrvBaseLayoutWidget", "Planning"));
+        pbExecution->setText(QCoreApplication::translate("OrvBaseLayoutWidget", "Execution"));
+        pbAfterAction->setText(QCoreApplication::translate("OrvBaseLayoutWidget", "After Action"));
+        pbSpecial->setText(QCoreApplication::translate("OrvBaseLayoutWidget", "Special"));
+        pbDebug->setToolTip(QCoreApplication::translate("OrvBaseLayoutWidget", "Debug functions"));
+        lbCurrentTime->setToolTip(QCoreApplication::translate("OrvBaseLayoutWidget", "Current time"));
+        lbExerciseTime->setToolTip(QCoreApplication::translate("OrvBaseLayoutWidget", "Exercise time"));
     }
 
 private:

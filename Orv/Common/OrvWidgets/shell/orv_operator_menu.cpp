@@ -101,16 +101,15 @@ public:
 
     void retranslateUi(QDialog* menu)
     {
-        auto tr = [](const char* text) { return QCoreApplication::translate("OrvOperatorMenu", text); };
-        menu->setWindowTitle(tr("Operator"));
-        pbOperatorSettings->setText(tr("Operator settings"));
-        pbWindow->setText(tr("Terminal"));
-        pbSwap->setText(tr("Swap screens"));
-        pbLogout->setText(tr("Logout"));
-        pbExit->setText(tr("Exit"));
-        pbAbout->setText(tr("About"));
-        pbCancel->setText(tr("Cancel"));
-        lbDebug->setText(tr("Language"));
+        menu->setWindowTitle(QCoreApplication::translate("OrvOperatorMenu", "Operator"));
+        pbOperatorSettings->setText(QCoreApplication::translate("OrvOperatorMenu", "Operator settings"));
+        pbWindow->setText(QCoreApplication::translate("OrvOperatorMenu", "Terminal"));
+        pbSwap->setText(QCoreApplication::translate("OrvOperatorMenu", "Swap screens"));
+        pbLogout->setText(QCoreApplication::translate("OrvOperatorMenu", "Logout"));
+        pbExit->setText(QCoreApplication::translate("OrvOperatorMenu", "Exit"));
+        pbAbout->setText(QCoreApplication::translate("OrvOperatorMenu", "About"));
+        pbCancel->setText(QCoreApplication::translate("OrvOperatorMenu", "Cancel"));
+        lbDebug->setText(QCoreApplication::translate("OrvOperatorMenu", "Language"));
         pbGer->setText(QStringLiteral("Deutsch"));
         pbInt->setText(QStringLiteral("English"));
     }
