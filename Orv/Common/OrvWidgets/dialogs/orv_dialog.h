@@ -59,6 +59,7 @@ class ORVWIDGETS_EXPORT OrvDialog : public QWidget
 {
     Q_OBJECT
     Q_PROPERTY(bool unchangeable READ unchangeable WRITE setUnchangeable)
+    friend class OrvTabWidget; // calls aboutToClose() of the pages it closes
 public:
     // The parent is accepted but not used: the page always lives in the scroll
     // area of its own frame.

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "orv_frameless_dialog.h"
+
+#include <QObject>
+#include <QPointer>
+
+class QLabel;
+
+namespace OrvWidgets {
+
+// A modal busy window while a server request runs and, when it ends, a modal
+// result window with an OK button. The caller decides when a wait timed out.
+class ORVWIDGETS_EXPORT OrvProgressDialogHelper : public QObject
+{
+    Q_OBJECT
+public:
+    enum ReplyResult { Close = 0, Success = 1, Failure = 2, TimeOut = 3 };
+    Q_ENUM(ReplyResult)
+
+    explicit OrvProgressDialogHelper(QWidget* parent);
+    ~OrvProgressDialogHelper() override;
+
+    // A busy or result window currently exists.
+    bool isShown() const;
+    // Text of the busy window; empty means the default text.
+    void setCustomText(const QString& text);
+    void setParentWidget(QWidget* parent);
+    QWidget* parentWidget() const { return m_parentWidget; }
+    // The busy or result window on screen, or null.
+    OrvFramelessDialog* window() const { return m_waitDlg; }
+
+Q_SIGNALS:
+    void accepted();
+
+public Q_SLOTS:
+    void slotShowWaitForReplyWindow();
+    void slotStopWaitForReplyWindow(const OrvWidgets::OrvProgressDialogHelper::ReplyResult& result,
+                                    const QString& reason = QString());
+
+private:
+    void accept();
+
+    QPointer<OrvFramelessDialog> m_waitDlg;
+    QPointer<QWidget> m_parentWidget;
+    QPointer<QLabel> m_textLabel;
+};
+
+} // namespace OrvWidgets
