@@ -3,6 +3,7 @@
 #include <orv_dialog_helper.h>
 #include <orv_drag_icon.h>
 #include <orv_session_data.h>
+#include <orv_settings.h>
 #include <orv_tab_widget.h>
 #include <orv_test_support.h>
 #include <orv_tool_bar_area.h>
@@ -334,6 +335,25 @@ private Q_SLOTS:
         QTest::keyClick(&shell, Qt::Key_F5);
         QCOMPARE(created, 1);
         QVERIFY(shell.getWidget("G", "later", eDialogTab));
+    }
+
+    void storedToolBarComesBack()
+    {
+        QTemporaryDir dir;
+        OrvUtils::OperatorSettings::getInstance()->setFileName(dir.filePath("operator.ini"));
+        {
+            OrvBaseLayoutWidget shell(nullptr, true);
+            shell.addMenuAction(entry("a", "G", eSpecial), false);
+            shell.addMenuAction(entry("b", "G", eSpecial), false);
+            QCoreApplication::processEvents();
+            shell.setToolBarActions({"b", "a"});
+            shell.setFunctionKeys({{Qt::Key_F7, "a"}});
+        }
+        OrvBaseLayoutWidget shell(nullptr, true);
+        shell.addMenuAction(entry("a", "G", eSpecial), false);
+        shell.addMenuAction(entry("b", "G", eSpecial), false);
+        QTRY_COMPARE(shell.toolBarActions(), QStringList({"b", "a"}));
+        QCOMPARE(shell.functionKeys().value(Qt::Key_F7), QStringLiteral("a"));
     }
 
     void destroyedWithOpenPagesAndAnimation()

@@ -1,4 +1,6 @@
+#include <dax_translation.h>
 #include <orv_base_layout_widget.h>
+#include <orv_dialog_helper.h>
 #include <orv_dialog.h>
 #include <orv_events.h>
 #include <orv_settings.h>
@@ -296,6 +298,39 @@ private Q_SLOTS:
         QVERIFY(!shell.isTopBarVisible());
         shell.setMenuVisible(false);
         QVERIFY(!shell.isMenuVisible());
+    }
+
+    void liveLanguageSwitch()
+    {
+        OrvBaseLayoutWidget shell(nullptr, true);
+        shell.show();
+        auto* page = new Page;
+        shell.addWidget(page, "G", "I", eDialogTab, true, true);
+        auto* cancel = page->getHelper()->findChild<QPushButton*>("pbClose");
+        auto* planning = shell.findChild<QPushButton*>("pbPlanning");
+        auto* exercise = shell.findChild<QLabel*>("lbExerciseName");
+        QCOMPARE(planning->text(), QStringLiteral("Planning"));
+        QCOMPARE(cancel->text(), QStringLiteral("Cancel"));
+        Dax::setTranslationLocale("de_DE", "orv-tests");
+        QCoreApplication::processEvents();
+        QCOMPARE(planning->text(), QStringLiteral("Planung"));
+        QCOMPARE(exercise->text(), QStringLiteral("keine Übung"));
+        QCOMPARE(cancel->text(), QStringLiteral("Abbrechen"));
+        Dax::setTranslationLocale("en_GB", "orv-tests");
+        QCoreApplication::processEvents();
+        QCOMPARE(planning->text(), QStringLiteral("Planning"));
+        QCOMPARE(exercise->text(), QStringLiteral("no exercise"));
+        QCOMPARE(cancel->text(), QStringLiteral("Cancel"));
+    }
+
+    void destroyedDuringSlideIn()
+    {
+        auto* shell = new OrvBaseLayoutWidget(nullptr, true);
+        shell->show();
+        shell->showMessage("A", "a", OrvNotificationBox::Error);
+        QTest::qWait(100); // the slide-in runs for 700 ms
+        delete shell;
+        QTest::qWait(50);
     }
 
     void firstShowGivesTheMainAreaTheRoom()

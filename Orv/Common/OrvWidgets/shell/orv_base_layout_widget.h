@@ -176,6 +176,7 @@ private:
     void applyExerciseStateRestricition();
     void showNextQueuedMessage();
     void settleFirstShow();
+    void scheduleToolBarRestore();
 
     ExerciseData m_exerciseData;
     QMap<OrvDragIcon*, PluginData> m_mapButtons;
@@ -202,6 +203,8 @@ private:
     OrvNotificationBox* m_notiBox = nullptr;
     QStringList m_notFoundYet;
     bool m_isSecondaryWidget = false;
+    // The operator's stored tool bar is restored once, after the first entries exist.
+    bool m_toolBarRestoreScheduled = false;
     QVector<Message> m_currentMessage;
     QVector<Message> m_messageQueue;
 };

@@ -11,6 +11,7 @@
 #include <orv_session_data.h>
 
 #include <QLoggingCategory>
+#include <QTimer>
 
 Q_DECLARE_LOGGING_CATEGORY(lcShell)
 
@@ -168,6 +169,7 @@ OrvDragIcon* OrvBaseLayoutWidget::addMenuAction(const PluginData& data, bool exe
         m_mapButtons.insert(button, data);
         if (m_notFoundYet.removeAll(data.identifier) > 0)
             m_ui->toolBar->addMenuEntry(button, nullptr);
+        scheduleToolBarRestore();
     }
 
     checkExercisePartButtonVisibility();
@@ -329,6 +331,19 @@ void OrvBaseLayoutWidget::applyExerciseStateRestricition()
     const ExcState state = m_exerciseData.exState;
     for (auto it = m_mapButtons.cbegin(); it != m_mapButtons.cend(); ++it)
         it.key()->setButtonVisible(it.value().exerciseStates.testFlag(state));
+}
+
+void OrvBaseLayoutWidget::scheduleToolBarRestore()
+{
+    // Applications add their entries in one go; restore once the event loop turns,
+    // when they all exist, instead of once per entry.
+    if (m_toolBarRestoreScheduled)
+        return;
+    m_toolBarRestoreScheduled = true;
+    QTimer::singleShot(0, this, [this] {
+        if (m_ui->toolBar->menuEntries().isEmpty())
+            m_ui->toolBar->restoreSettings(m_mapButtons.keys());
+    });
 }
 
 void OrvBaseLayoutWidget::setToolBarActions(const QList<QString>& identifiers)
