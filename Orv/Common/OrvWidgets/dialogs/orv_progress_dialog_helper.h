@@ -15,7 +15,8 @@ class ORVWIDGETS_EXPORT OrvProgressDialogHelper : public QObject
 {
     Q_OBJECT
 public:
-    enum ReplyResult { Close = 0, Success = 1, Failure = 2, TimeOut = 3 };
+    // A fixed underlying type: callers may pass numbers outside the four values.
+    enum ReplyResult : int { Close = 0, Success = 1, Failure = 2, TimeOut = 3 };
     Q_ENUM(ReplyResult)
 
     explicit OrvProgressDialogHelper(QWidget* parent);
