@@ -1,7 +1,8 @@
 // Produces the binary assets of the resource collection from the SVG sources
 // kept beside this program: PNG renderings, the tool logo as ICO and the alert
-// sounds (synthesised). Optionally renders a contact sheet of every icon for a
-// visual check.
+// sounds (synthesised). On request it also renders the demo application's
+// project images (logo, splash, backgrounds) from the sources' project folder.
+// Optionally renders a contact sheet of every icon for a visual check.
 
 #include <QBuffer>
 #include <QCommandLineParser>
@@ -27,6 +28,7 @@ struct PngJob
     const char* output; // file name in the resource folder
     int width;
     int height;
+    bool opaque = false; // written without alpha channel: full-area images get much smaller
 };
 
 const PngJob kPngJobs[] = {
@@ -41,6 +43,14 @@ const PngJob kPngJobs[] = {
     {"stylesheet-branch-closed.svg", "stylesheet-branch-closed.png", 16, 16},
     {"stylesheet-branch-open.svg", "stylesheet-branch-open.png", 16, 16},
     {"ScriptEditor-Changelog-1.svg", "ScriptEditor-Changelog-1.png", 480, 300},
+};
+
+// The images an application supplies to the library under ":/project/", here for the demo.
+const PngJob kProjectJobs[] = {
+    {"project/logo.svg", "logo.png", 256, 256},
+    {"project/splash.svg", "splash.png", 640, 400, true},
+    {"project/background.svg", "background.png", 1920, 1080, true},
+    {"project/background_wide.svg", "background_wide.png", 3840, 1080, true},
 };
 
 const char kIcoSource[] = "kiv_internal_dds_logo.svg";
@@ -264,6 +274,10 @@ int main(int argc, char** argv)
                                    QStringLiteral("Only render every SVG icon of <output> into <file>."),
                                    QStringLiteral("file"));
     parser.addOption(sheetOption);
+    QCommandLineOption projectOption(QStringLiteral("project-output"),
+                                     QStringLiteral("Also render the demo's project images into <dir>."),
+                                     QStringLiteral("dir"));
+    parser.addOption(projectOption);
     parser.addPositionalArgument(QStringLiteral("sources"), QStringLiteral("Folder of the SVG sources."));
     parser.addPositionalArgument(QStringLiteral("output"), QStringLiteral("Resource folder to write into."));
     parser.process(app);
@@ -277,14 +291,25 @@ int main(int argc, char** argv)
         return contactSheet(output.absolutePath(), parser.value(sheetOption)) ? 0 : 1;
 
     bool ok = true;
-    for (const PngJob& job : kPngJobs) {
-        const QImage image = renderSvg(sources.filePath(QLatin1String(job.source)), QSize(job.width, job.height));
-        ok = !image.isNull() && writeFile(output.filePath(QLatin1String(job.output)), pngBytes(image)) && ok;
-    }
+    const auto renderJob = [&sources](const PngJob& job, const QDir& into) {
+        QImage image = renderSvg(sources.filePath(QLatin1String(job.source)), QSize(job.width, job.height));
+        if (image.isNull())
+            return false;
+        if (job.opaque)
+            image = image.convertToFormat(QImage::Format_RGB32);
+        return writeFile(into.filePath(QLatin1String(job.output)), pngBytes(image));
+    };
+    for (const PngJob& job : kPngJobs)
+        ok = renderJob(job, output) && ok;
     ok = writeFile(output.filePath(QLatin1String(kIcoOutput)),
                    icoBytes(sources.filePath(QLatin1String(kIcoSource)), {256, 48, 32, 16}))
          && ok;
     for (const Sound& sound : sounds())
         ok = writeFile(output.filePath(QLatin1String(sound.file)), wavBytes(synthesise(sound.tones))) && ok;
+    if (parser.isSet(projectOption)) {
+        const QDir projectDir(parser.value(projectOption));
+        for (const PngJob& job : kProjectJobs)
+            ok = renderJob(job, projectDir) && ok;
+    }
     return ok ? 0 : 1;
 }
