@@ -5,6 +5,8 @@
 #include <orv_test_support.h>
 #include <requirement_widget.h>
 
+#include <orv_test_widgets.h>
+
 #include <QtTest>
 #include <QtWidgets>
 
@@ -117,16 +119,7 @@ struct Opened
     QPointer<OrvDialogHelper> frame;
 };
 
-QStringList visibleButtons(QWidget* box)
-{
-    QStringList names;
-    const auto buttons = box->findChildren<QPushButton*>();
-    for (QPushButton* b : buttons)
-        if (b->isVisibleTo(box))
-            names << b->objectName();
-    names.sort();
-    return names;
-}
+using OrvTest::visibleButtons;
 
 void edit(Page* p, const QString& widget)
 {

@@ -2,21 +2,14 @@
 #include <orv_session_data.h>
 #include <orv_test_support.h>
 
+#include <orv_test_widgets.h>
+
 #include <QtTest>
 
 using namespace OrvWidgets;
 
 namespace {
-QStringList visibleButtons(QWidget* box)
-{
-    QStringList names;
-    const auto buttons = box->findChildren<QPushButton*>();
-    for (QPushButton* b : buttons)
-        if (b->isVisibleTo(box))
-            names << b->objectName();
-    names.sort();
-    return names;
-}
+using OrvTest::visibleButtons;
 } // namespace
 
 class TestOrvDialogButtonBox : public QObject
