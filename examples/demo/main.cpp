@@ -1,18 +1,32 @@
 // orv-demo: the exercise-control demo application built on OrvWidgets.
 
-#include "demo_window.h"
+#include "demo_controller.h"
 
 #include <dax_translation.h>
+#include <orv_base_layout_widget.h>
+#include <splash.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QLoggingCategory>
 #include <QTimer>
-#include <QWindow>
 
 #include <cstdio>
 
+namespace {
+
+// The suite's applications share one translation domain; the operator menu
+// switches the language of exactly this domain.
+const QString kDomain = QStringLiteral("qeb");
+
+} // namespace
+
 int main(int argc, char** argv)
 {
+    // Operators need no developer chatter; QT_LOGGING_RULES brings it back.
+    if (qEnvironmentVariableIsEmpty("QT_LOGGING_RULES"))
+        QLoggingCategory::setFilterRules(QStringLiteral("*.debug=false"));
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("orv-demo"));
     QApplication::setOrganizationName(QStringLiteral("orv"));
@@ -23,7 +37,8 @@ int main(int argc, char** argv)
     const QCommandLineOption screenshot(QStringLiteral("screenshot"),
                                         QStringLiteral("Save a PNG of the window to FILE once painted, then exit."),
                                         QStringLiteral("FILE"));
-    const QCommandLineOption page(QStringLiteral("page"), QStringLiteral("Open the page IDENTIFIER at start."),
+    const QCommandLineOption page(QStringLiteral("page"),
+                                  QStringLiteral("Open the page IDENTIFIER at start (e.g. plan.participants)."),
                                   QStringLiteral("IDENTIFIER"));
     const QCommandLineOption lang(QStringLiteral("lang"), QStringLiteral("User interface language: de or en."),
                                   QStringLiteral("de|en"), QStringLiteral("en"));
@@ -35,17 +50,40 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "orv-demo: --lang must be de or en\n");
         return 2;
     }
-    Dax::setTranslationLocale(language == QLatin1String("de") ? "de_DE" : "en_GB", QStringLiteral("orv-demo"));
+    Dax::setTranslationLocale(language == QLatin1String("de") ? "de_DE" : "en_GB", kDomain);
 
-    DemoWindow window;
-    window.resize(720, 360);
-    window.show();
+    const bool takeScreenshot = parser.isSet(screenshot);
+    OrvWidgets::Splash* splash = OrvWidgets::Splash::getInstance();
+    splash->setMessage(DemoController::loadingText());
+    splash->show();
+    QCoreApplication::processEvents();
 
-    if (parser.isSet(screenshot)) {
+    DemoController controller;
+    QObject::connect(&controller, &DemoController::closeRequested, &app, &QCoreApplication::quit);
+    OrvWidgets::OrvBaseLayoutWidget* shell = controller.shell();
+    shell->resize(1440, 900);
+    if (!takeScreenshot)
+        controller.showBackground();
+    shell->show();
+    splash->done();
+
+    // The planning part first, with the participants at hand, unless told otherwise.
+    if (auto* planning = shell->getMenu()->findChild<QAbstractButton*>(QStringLiteral("pbPlanning")))
+        planning->click();
+    {
+        const QString identifier = parser.isSet(page) ? parser.value(page) : QStringLiteral("plan.participants");
+        if (!controller.openEntry(identifier)) {
+            std::fprintf(stderr, "orv-demo: no menu entry '%s'; known: %s\n", qPrintable(identifier),
+                         qPrintable(controller.menuIdentifiers().join(QLatin1String(", "))));
+            return 2;
+        }
+    }
+
+    if (takeScreenshot) {
         const QString file = parser.value(screenshot);
-        // Two turns of the event loop after exposure: layouts and translations settle first.
-        QTimer::singleShot(300, &window, [&window, file] {
-            const bool saved = window.grab().save(file, "PNG");
+        // Settle first: splitter sizes, the menu animation and the first clock tick.
+        QTimer::singleShot(1200, shell, [shell, file] {
+            const bool saved = shell->grab().save(file, "PNG");
             if (!saved)
                 std::fprintf(stderr, "orv-demo: cannot write %s\n", qPrintable(file));
             QCoreApplication::exit(saved ? 0 : 1);

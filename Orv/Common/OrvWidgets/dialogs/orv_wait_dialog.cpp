@@ -39,6 +39,12 @@ Waiter::Waiter(OrvDialog* page, const QString& text)
     page->setOverlay(m_loadingOverlay);
 }
 
+// Out of line: the overlay's class is only forward-declared in the header.
+OrvOverlayLoading* Waiter::overlay() const
+{
+    return m_loadingOverlay;
+}
+
 Waiter::~Waiter()
 {
     if (m_global) {

@@ -33,7 +33,7 @@ public:
     Waiter(const Waiter&) = delete;
     Waiter& operator=(const Waiter&) = delete;
 
-    OrvOverlayLoading* overlay() const { return m_loadingOverlay; }
+    OrvOverlayLoading* overlay() const;
 
 private:
     QPointer<OrvOverlayLoading> m_loadingOverlay;

@@ -15,7 +15,9 @@
 #include <QClipboard>
 #include <QCloseEvent>
 #include <QDateTime>
+#include <QFile>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QLoggingCategory>
 #include <QMenu>
 #include <QPropertyAnimation>
@@ -40,6 +42,7 @@ OrvBaseLayoutWidget::OrvBaseLayoutWidget(QWidget* parent, bool exercisePartButto
     installTimeContextMenu(m_ui->lbExerciseTime, [this] { return m_exerciseTime; });
 
     setMinimumSize(1280, 900);
+    setTopBarImages();
 
     m_ui->detailWidget->setSubTabsVisible(true);
     OrvSplitter::registerInterpolator();
@@ -386,6 +389,18 @@ void OrvBaseLayoutWidget::installTimeContextMenu(QWidget* label, const std::func
         });
         menu->popup(label->mapToGlobal(pos));
     });
+}
+
+void OrvBaseLayoutWidget::setTopBarImages()
+{
+    // Drawn from scalable sources at the screen's pixel ratio, so they stay sharp.
+    const int height = m_ui->profileButton->height();
+    const qreal ratio = devicePixelRatioF();
+    const QIcon splitter(QStringLiteral(":/kiv_splitter_left.svg"));
+    if (!splitter.isNull())
+        m_ui->lbKivSplitterLeft->setPixmap(splitter.pixmap(QSize(height / 2, height), ratio));
+    if (QFile::exists(QStringLiteral(":/project/logo.png")))
+        m_ui->lbProjectLogo->setPixmap(QIcon(QStringLiteral(":/project/logo.png")).pixmap(QSize(height, height), ratio));
 }
 
 void OrvBaseLayoutWidget::buildDebugMenu()

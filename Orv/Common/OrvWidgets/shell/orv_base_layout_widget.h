@@ -164,6 +164,7 @@ private:
     void addTouchScroll(QWidget* widget);
     void retranslate();
     void buildDebugMenu();
+    void setTopBarImages();
     void installTimeContextMenu(QWidget* label, const std::function<qint64()>& milliseconds);
 
     OrvDragIcon* createButton(const PluginData& data);

@@ -262,7 +262,8 @@ void OrvBaseLayoutWidget::showEvent(QShowEvent* event)
 void OrvBaseLayoutWidget::settleFirstShow()
 {
     // The main area gets the room; the navigation column its preferred width;
-    // info, dialog and special areas their minimum until they hold pages.
+    // info, dialog and special areas their preferred size once they hold pages
+    // (at most a third of the splitter), nothing while they are empty.
     const auto settle = [](QSplitter* splitter, QWidget* grows, const QList<QWidget*>& minimal,
                            QWidget* preferred) {
         const bool horizontal = splitter->orientation() == Qt::Horizontal;
@@ -278,7 +279,8 @@ void OrvBaseLayoutWidget::settleFirstShow()
                 size = horizontal ? qMax(w->sizeHint().width(), w->minimumWidth())
                                   : qMax(w->sizeHint().height(), w->minimumHeight());
             else if (minimal.contains(w) && !w->isHidden())
-                size = horizontal ? w->minimumWidth() : w->minimumHeight();
+                size = qMin(total / 3, horizontal ? qMax(w->sizeHint().width(), w->minimumWidth())
+                                                  : qMax(w->sizeHint().height(), w->minimumHeight()));
             sizes << size;
             used += size;
         }

@@ -150,6 +150,8 @@ public:
         profileButton = named(new OrvWidgets::OrvProfileButton(topLayoutWidget), "profileButton");
         profileButton->setFixedSize(48, 48);
         horizontalLayout->addWidget(profileButton);
+        // The bar keeps its natural height; the page areas take the rest.
+        topLayoutWidget->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
         verticalLayout->addWidget(topLayoutWidget);
 
         line = named(new QFrame(form), "line");
@@ -189,7 +191,7 @@ public:
         naviActionsSpecial = toolBox(stackedWidget, "naviActionsSpecial");
         gridLayout->addWidget(stackedWidget, 1, 0, 1, 4);
         specialWidget = tabWidget(rightSplitter, "specialWidget", QSize(100, 100));
-        verticalLayout->addWidget(masterSplitter);
+        verticalLayout->addWidget(masterSplitter, 1);
 
         retranslateUi(form);
     }

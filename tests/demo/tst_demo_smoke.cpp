@@ -1,0 +1,254 @@
+// Drives the demo application the way an operator does: every menu button,
+// every page, the exercise life cycle, links, locks, waits, both languages.
+
+#include "demo_controller.h"
+#include "event_log_model.h"
+#include "exercise.h"
+#include "orv_test_support.h"
+#include "pages/event_log_page.h"
+#include "pages/exercise_setup_page.h"
+#include "pages/participants_page.h"
+
+#include <dax_translation.h>
+#include <orv_base_layout_widget.h>
+#include <orv_column_filter_proxy_model.h>
+#include <orv_dialog_helper.h>
+#include <orv_drag_icon.h>
+#include <orv_events.h>
+#include <orv_tab_widget.h>
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QToolBox>
+#include <QApplication>
+#include <QScopeGuard>
+#include <QTest>
+
+using namespace OrvWidgets;
+
+namespace {
+
+QStringList g_problems;
+QtMessageHandler g_previous = nullptr;
+
+// Every warning counts, except Qt's own platform notes.
+void collectProblems(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    const QLatin1String category(context.category ? context.category : "");
+    if (type != QtDebugMsg && type != QtInfoMsg && !category.startsWith(QLatin1String("qt."))
+        && !message.contains(QLatin1String("XDG_RUNTIME_DIR"))
+        && !message.startsWith(QLatin1String("This plugin does not support")))
+        g_problems << QStringLiteral("%1: %2").arg(category, message);
+    if (g_previous)
+        g_previous(type, context, message);
+}
+
+OrvDialog* currentPage(OrvBaseLayoutWidget* shell, LayoutArea area)
+{
+    QWidget* current = shell->getTabFromLayoutArea(area)->currentWidget();
+    while (auto* nested = qobject_cast<OrvTabWidget*>(current))
+        current = nested->currentWidget();
+    auto* helper = qobject_cast<OrvDialogHelper*>(current);
+    return helper ? helper->getDialog() : nullptr;
+}
+
+} // namespace
+
+class DemoSmokeTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        g_previous = qInstallMessageHandler(collectProblems);
+        Dax::setTranslationLocale("en_GB", QStringLiteral("qeb"));
+        m_demo = new DemoController;
+        m_demo->setSimulationDelays(200, 100);
+        m_demo->shell()->resize(1440, 900);
+        m_demo->shell()->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_demo->shell()));
+        m_demo->shell()->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_demo->shell()));
+    }
+
+    void everyMenuButtonInEveryState()
+    {
+        OrvBaseLayoutWidget* shell = m_demo->shell();
+        Exercise* exercise = m_demo->exercise();
+        QSet<QString> opened;
+        // Created, started, paused, stopped: each state shows its own entries.
+        const QList<std::function<bool()>> steps{[] { return true; }, [exercise] { return exercise->start(); },
+                                                 [exercise] { return exercise->pause(); },
+                                                 [exercise] { return exercise->stop(); }};
+        const char* const partButtons[] = {"pbPlanning", "pbExecution", "pbAfterAction", "pbSpecial"};
+        for (const auto& step : steps) {
+            QVERIFY(step());
+            const auto buttons = shell->mapButtons();
+            for (auto it = buttons.cbegin(); it != buttons.cend(); ++it) {
+                if (!it.key()->buttonVisible())
+                    continue;
+                const PluginData data = it.value();
+                // As the operator does: choose the part, open the group, click.
+                auto* part = shell->getMenu()->findChild<QAbstractButton*>(partButtons[data.exercisePart]);
+                QVERIFY(part && part->isVisible());
+                part->click();
+                QToolBox* box = nullptr;
+                for (QWidget* w = it.key(); w && !box; w = w->parentWidget())
+                    box = qobject_cast<QToolBox*>(w);
+                QVERIFY(box);
+                for (int i = 0; i < box->count(); ++i) {
+                    if (box->widget(i)->isAncestorOf(it.key()))
+                        box->setCurrentIndex(i);
+                }
+                QVERIFY2(it.key()->toolButton()->isVisible(), qPrintable(data.identifier));
+                QTest::mouseClick(it.key()->toolButton(), Qt::LeftButton);
+                if (!data.createWidgetFunc)
+                    continue;
+                OrvDialog* page = currentPage(shell, data.layoutArea);
+                QVERIFY2(page && page->identifier() == data.identifier, qPrintable(data.identifier));
+                opened << data.identifier;
+            }
+        }
+        QVERIFY2(opened.size() == 7, qPrintable(QStringList(opened.cbegin(), opened.cend()).join(' ')));
+        QVERIFY(!m_demo->menuIdentifiers().contains(QStringLiteral("plan.import")));
+        QVERIFY(exercise->reset());
+    }
+
+    void toolBarAndFunctionKeysRunEntries()
+    {
+        OrvBaseLayoutWidget* shell = m_demo->shell();
+        QCOMPARE(shell->toolBarActions(),
+                 QStringList({"run.control", "plan.participants", "tools.notify"}));
+        QCOMPARE(shell->functionKeys().value(Qt::Key_F6), QStringLiteral("plan.participants"));
+        QVERIFY(m_demo->openEntry(QStringLiteral("plan.setup")));
+        QCOMPARE(currentPage(shell, eMainTab)->identifier(), QStringLiteral("plan.setup"));
+        // The server wait of the first test fades out first; it blocks the keys while shown.
+        QTRY_VERIFY_WITH_TIMEOUT(!QApplication::activeModalWidget(), 10000);
+        shell->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(shell));
+        QTest::keyClick(shell, Qt::Key_F6);
+        QCOMPARE(currentPage(shell, eMainTab)->identifier(), QStringLiteral("plan.participants"));
+    }
+
+    void linksFromNotificationsAreHandled()
+    {
+        QSignalSpy handled(m_demo, &DemoController::linkHandled);
+        m_demo->showTestNotifications();
+        postToApplication(new OrvLinkEvent(QUrl(QStringLiteral("orv://ParticipantInfo/19")), m_demo->shell()));
+        QTRY_COMPARE(handled.count(), 1);
+        auto* page = qobject_cast<ParticipantsPage*>(currentPage(m_demo->shell(), eMainTab));
+        QVERIFY(page);
+        QCOMPARE(page->proxy()->rowCount(), 1);
+        QCOMPARE(page->proxy()->index(0, 0).data().toInt(), 19);
+
+        const int entries = m_demo->eventLog()->rowCount();
+        postToApplication(new OrvLinkEvent(QUrl(QStringLiteral("orv://NotificationAck/test-info")), m_demo->shell()));
+        QTRY_COMPARE(handled.count(), 2);
+        const QAbstractItemModel* log = m_demo->eventLog();
+        QVERIFY(log->rowCount() > entries);
+        QVERIFY2(log->index(log->rowCount() - 1, EventLogModel::TextColumn).data().toString().contains("test-info"),
+                 qPrintable(log->index(log->rowCount() - 1, EventLogModel::TextColumn).data().toString()));
+    }
+
+    void secondOperatorLocksThePlan()
+    {
+        QVERIFY(m_demo->openEntry(QStringLiteral("plan.setup")));
+        auto* page = qobject_cast<ExerciseSetupPage*>(currentPage(m_demo->shell(), eMainTab));
+        QVERIFY(page);
+        QVERIFY(!page->unchangeable());
+        m_demo->simulateSecondOperator();
+        QVERIFY(page->unchangeable());
+        QCOMPARE(page->topicLockedBy(), QStringLiteral("Bravo"));
+        QVERIFY(page->findChild<QLineEdit*>(QStringLiteral("leName"))->isReadOnly());
+        QTRY_VERIFY(!m_demo->isPlanHeldByOtherOperator());
+        QVERIFY(!page->unchangeable());
+        QVERIFY(!page->findChild<QLineEdit*>(QStringLiteral("leName"))->isReadOnly());
+    }
+
+    void planNeedsItsRequirementsBeforeApply()
+    {
+        QVERIFY(m_demo->openEntry(QStringLiteral("plan.setup")));
+        OrvDialog* page = currentPage(m_demo->shell(), eMainTab);
+        auto* name = page->findChild<QLineEdit*>(QStringLiteral("leName"));
+        auto* apply = page->getHelper()->findChild<QPushButton*>(QStringLiteral("pbApply"));
+        QVERIFY(apply);
+        QTest::keyClick(name, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(name, Qt::Key_Delete);
+        QVERIFY(page->hasUnsavedChanges());
+        OrvTest::DialogAnswerer answerer;
+        answerer.click(QStringLiteral("Ok"));
+        apply->click();
+        QTRY_COMPARE(answerer.texts().size(), 1);
+        QVERIFY(page->hasUnsavedChanges());
+        QTest::keyClicks(name, QStringLiteral("Southern Cross"));
+        apply->click();
+        QCOMPARE(m_demo->exercise()->name(), QStringLiteral("Southern Cross"));
+        QVERIFY(!page->hasUnsavedChanges());
+    }
+
+    void slowServerRequestCoversThePage()
+    {
+        m_demo->exercise()->start();
+        QVERIFY(m_demo->openEntry(QStringLiteral("run.log")));
+        auto* page = qobject_cast<EventLogPage*>(currentPage(m_demo->shell(), eDialogTab));
+        QVERIFY(page);
+        page->requestServerStatus();
+        QVERIFY(page->isWaiting());
+        QVERIFY(!page->isClosable());
+        QTRY_VERIFY(!page->isWaiting());
+        QVERIFY(page->isClosable());
+        m_demo->exercise()->stop();
+        m_demo->exercise()->reset();
+    }
+
+    void languageSwitchesLiveAndBack()
+    {
+        OrvBaseLayoutWidget* shell = m_demo->shell();
+        const auto textOf = [shell](const QString& identifier) {
+            const auto buttons = shell->mapButtons();
+            for (auto it = buttons.cbegin(); it != buttons.cend(); ++it) {
+                if (it.value().identifier == identifier)
+                    return it.key()->toolButton()->text();
+            }
+            return QString();
+        };
+        m_demo->openEntry(QStringLiteral("run.control"));
+        QPushButton* start = currentPage(shell, eInfoTab)->findChild<QPushButton*>(QStringLiteral("pbStart"));
+        const auto english = qScopeGuard([] { Dax::setTranslationLocale("en_GB", QStringLiteral("qeb")); });
+        Dax::setTranslationLocale("de_DE", QStringLiteral("qeb"));
+        QTRY_COMPARE(textOf(QStringLiteral("plan.participants")), QStringLiteral("Teilnehmer"));
+        QTRY_COMPARE(start->text(), QStringLiteral("Starten"));
+        Dax::setTranslationLocale("en_GB", QStringLiteral("qeb"));
+        QTRY_COMPARE(textOf(QStringLiteral("plan.participants")), QStringLiteral("Participants"));
+        QTRY_COMPARE(start->text(), QStringLiteral("Start"));
+    }
+
+    void closingAsksForUnsavedChangesThenCloses()
+    {
+        QSignalSpy closed(m_demo, &DemoController::closeRequested);
+        QVERIFY(m_demo->openEntry(QStringLiteral("tools.settings")));
+        currentPage(m_demo->shell(), eSpecialTab)->slotChangesMade();
+        OrvTest::DialogAnswerer answerer;
+        answerer.click(QStringLiteral("Discard All"));
+        m_demo->shell()->close();
+        QCOMPARE(closed.count(), 1);
+        QVERIFY(!m_demo->shell()->isVisible());
+    }
+
+    void cleanupTestCase()
+    {
+        delete m_demo;
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        qInstallMessageHandler(g_previous);
+        QVERIFY2(g_problems.isEmpty(), qPrintable(g_problems.join(QLatin1Char('\n'))));
+    }
+
+private:
+    DemoController* m_demo = nullptr;
+};
+
+QTEST_MAIN(DemoSmokeTest)
+#include "tst_demo_smoke.moc"
