@@ -198,8 +198,6 @@ PluginData DemoController::pluginData(const Entry& entry)
         data.closable = false;
     } else if (identifier == QLatin1String("plan.setup") || identifier == QLatin1String("plan.participants")) {
         data.layoutArea = eMainTab;
-    } else if (identifier == QLatin1String("tools.settings")) {
-        data.layoutArea = eSpecialTab;
     }
     return data;
 }

@@ -221,6 +221,7 @@ private Q_SLOTS:
         Dax::setTranslationLocale("de_DE", QStringLiteral("qeb"));
         QTRY_COMPARE(textOf(QStringLiteral("plan.participants")), QStringLiteral("Teilnehmer"));
         QTRY_COMPARE(start->text(), QStringLiteral("Starten"));
+        QCOMPARE(shell->getTabFromLayoutArea(eInfoTab)->tabText(0), QStringLiteral("Übungssteuerung"));
         Dax::setTranslationLocale("en_GB", QStringLiteral("qeb"));
         QTRY_COMPARE(textOf(QStringLiteral("plan.participants")), QStringLiteral("Participants"));
         QTRY_COMPARE(start->text(), QStringLiteral("Start"));
@@ -230,7 +231,7 @@ private Q_SLOTS:
     {
         QSignalSpy closed(m_demo, &DemoController::closeRequested);
         QVERIFY(m_demo->openEntry(QStringLiteral("tools.settings")));
-        currentPage(m_demo->shell(), eSpecialTab)->slotChangesMade();
+        currentPage(m_demo->shell(), eDialogTab)->slotChangesMade();
         OrvTest::DialogAnswerer answerer;
         answerer.click(QStringLiteral("Discard All"));
         m_demo->shell()->close();

@@ -46,7 +46,8 @@ EventLogPage::~EventLogPage() = default;
 
 void EventLogPage::retranslate()
 {
-    translate(tr("Event log"));
+    const QString title = tr("Event log");
+    translate(title);
     m_request->setText(tr("Request server status"));
     m_request->setToolTip(tr("Ask the exercise server for its status; the answer takes a moment."));
 }

@@ -73,7 +73,8 @@ ExerciseControlPage::ExerciseControlPage(Exercise* exercise, QWidget* parent)
 
 void ExerciseControlPage::retranslate()
 {
-    translate(tr("Exercise control"));
+    const QString title = tr("Exercise control");
+    translate(title);
     m_stateCaption->setText(tr("State:"));
     m_phaseCaption->setText(tr("Phase:"));
     m_timeCaption->setText(tr("Exercise time:"));

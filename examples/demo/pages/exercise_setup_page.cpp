@@ -119,7 +119,9 @@ ExerciseSetupPage::ExerciseSetupPage(Exercise* exercise, QWidget* parent)
 
 void ExerciseSetupPage::retranslate()
 {
-    translate(tr("Exercise setup"));
+    // Through a variable: lupdate would take a direct argument for a context.
+    const QString title = tr("Exercise setup");
+    translate(title);
     m_nameLabel->setText(tr("&Name:"));
     m_descriptionLabel->setText(tr("&Description:"));
     m_phasesLabel->setText(tr("&Phases:"));

@@ -73,7 +73,7 @@ ParticipantsPage::ParticipantsPage(int rows, QWidget* parent)
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 8);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->setColumnWidth(ParticipantsModel::NumberColumn, 80);
+    m_table->setColumnWidth(ParticipantsModel::NumberColumn, 110);
     m_table->setColumnWidth(ParticipantsModel::CallSignColumn, 150);
     m_table->setColumnWidth(ParticipantsModel::UnitColumn, 160);
     m_table->setColumnWidth(ParticipantsModel::StrengthColumn, 100);
@@ -114,7 +114,8 @@ ParticipantsPage::ParticipantsPage(int rows, QWidget* parent)
 
 void ParticipantsPage::retranslate()
 {
-    translate(tr("Participants"));
+    const QString title = tr("Participants");
+    translate(title);
     const QStringList hints{tr("Number"), tr("Call sign"), tr("Unit"), tr("Strength")};
     for (int i = 0; i < m_filters.size(); ++i)
         m_filters.at(i)->setPlaceholderText(tr("Filter: %1").arg(hints.value(i)));

@@ -8,6 +8,7 @@
 #include <orv_spin_box.h>
 
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
 
@@ -22,6 +23,8 @@ SettingsPage::SettingsPage(QWidget* parent)
 {
     setObjectName(QStringLiteral("SettingsPage"));
     auto* form = new QFormLayout;
+    // Short numbers need no full-width fields.
+    form->setFieldGrowthPolicy(QFormLayout::FieldsStayAtSizeHint);
 
     m_headingLabel = new QLabel(this);
     m_heading = new OrvAngleEdit(this);
@@ -55,26 +58,28 @@ SettingsPage::SettingsPage(QWidget* parent)
     m_alertsLabel = new QLabel(this);
     m_alerts = new OrvBitfieldWidget(this);
     m_alerts->setObjectName(QStringLiteral("bfAlerts"));
+    m_alerts->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     m_alertsHint = new QLabel(this);
     m_alertsHint->setWordWrap(true);
-    auto* alerts = new QVBoxLayout;
+    auto* alerts = new QHBoxLayout;
     alerts->addWidget(m_alerts);
-    alerts->addWidget(m_alertsHint);
+    alerts->addWidget(m_alertsHint, 1);
     form->addRow(m_alertsLabel, alerts);
 
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(form);
     layout->addStretch(1);
 
-    // The bit field is not one of the editors the page watches by itself.
-    connect(m_alerts, &OrvBitfieldWidget::valueChanged, this, &OrvDialog::slotChangesMade);
     load();
     retranslate();
+    // The bit field is not one of the editors the page watches by itself.
+    connect(m_alerts, &OrvBitfieldWidget::valueChanged, this, &OrvDialog::slotChangesMade);
 }
 
 void SettingsPage::retranslate()
 {
-    translate(tr("Settings"));
+    const QString title = tr("Settings");
+    translate(title);
     m_headingLabel->setText(tr("Default heading:"));
     m_channelLabel->setText(tr("Radio channel:"));
     m_channel->setToolTip(tr("Channels 1-16 and 40-56; the others are reserved."));
@@ -93,6 +98,7 @@ void SettingsPage::load()
     m_channel->setValue(settings->value(kGroup, QStringLiteral("channel"), 5).toInt());
     m_rate->setValue(settings->value(kGroup, QStringLiteral("rate"), 12).toInt());
     m_distance->setValue(settings->value(kGroup, QStringLiteral("distance"), 25.0).toDouble());
+    const QSignalBlocker blocker(m_alerts);
     m_alerts->setValue(quint8(settings->value(kGroup, QStringLiteral("alerts"), 0x0b).toUInt()));
 }
 

@@ -265,6 +265,10 @@
         <source>Waiting for the exercise server...</source>
         <translation>Warte auf den Übungsserver...</translation>
     </message>
+    <message>
+        <source>Event log</source>
+        <translation>Ereignisprotokoll</translation>
+    </message>
 </context>
 <context>
     <name>Exercise</name>
@@ -363,6 +367,10 @@
         <source>not started</source>
         <translation>nicht gestartet</translation>
     </message>
+    <message>
+        <source>Exercise control</source>
+        <translation>Übungssteuerung</translation>
+    </message>
 </context>
 <context>
     <name>ExerciseSetupPage</name>
@@ -425,6 +433,10 @@
     <message>
         <source>Phase %1</source>
         <translation>Phase %1</translation>
+    </message>
+    <message>
+        <source>Exercise setup</source>
+        <translation>Übungsplanung</translation>
     </message>
 </context>
 <context>
@@ -508,6 +520,10 @@
         <source>%1 of %2 participants shown</source>
         <translation>%1 von %2 Teilnehmern angezeigt</translation>
     </message>
+    <message>
+        <source>Participants</source>
+        <translation>Teilnehmer</translation>
+    </message>
 </context>
 <context>
     <name>SettingsPage</name>
@@ -550,6 +566,10 @@
     <message>
         <source>Settings applied: channel %1, %2 updates per minute, reporting distance %3 km</source>
         <translation>Einstellungen übernommen: Kanal %1, %2 Aktualisierungen pro Minute, Meldeentfernung %3 km</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
     </message>
 </context>
 </TS>

@@ -82,7 +82,9 @@ void OrvTextEditDialog::setInitialBackgroundColor(const QColor& color)
 
 void OrvTextEditDialog::retranslate()
 {
-    translate(tr("Edit Text"));
+    // Through a variable: lupdate would read a direct argument as a context.
+    const QString title = tr("Edit Text");
+    translate(title);
 }
 
 void OrvTextEditDialog::emitTextChanged()

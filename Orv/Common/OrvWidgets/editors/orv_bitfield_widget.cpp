@@ -35,11 +35,24 @@ void OrvBitfieldWidget::setEditable(bool editable)
     emit isEditableChanged(m_isEditable);
 }
 
+QSize OrvBitfieldWidget::sizeHint() const
+{
+    const int cell = fontMetrics().height() * 3 / 2;
+    return QSize(8 * cell, m_hasCaption ? 2 * cell : cell);
+}
+
+QSize OrvBitfieldWidget::minimumSizeHint() const
+{
+    const int cell = fontMetrics().height();
+    return QSize(8 * cell, m_hasCaption ? 2 * cell : cell);
+}
+
 void OrvBitfieldWidget::setHasCaption(bool hasCaption)
 {
     if (hasCaption == m_hasCaption)
         return;
     m_hasCaption = hasCaption;
+    updateGeometry();
     update();
     emit hasCaptionChanged(m_hasCaption);
 }

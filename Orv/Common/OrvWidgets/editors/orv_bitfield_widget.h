@@ -21,6 +21,11 @@ public:
     explicit OrvBitfieldWidget(QWidget* parent = nullptr, quint8 value = 0);
     ~OrvBitfieldWidget() override;
 
+    // Eight square cells, each a little taller than a line of text; the
+    // captions take a second row.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
     quint8 value() const { return m_value; }
     bool isEditable() const { return m_isEditable; }
     bool hasCaption() const { return m_hasCaption; }

@@ -262,25 +262,32 @@ void OrvBaseLayoutWidget::showEvent(QShowEvent* event)
 void OrvBaseLayoutWidget::settleFirstShow()
 {
     // The main area gets the room; the navigation column its preferred width;
-    // info, dialog and special areas their preferred size once they hold pages
-    // (at most a third of the splitter), nothing while they are empty.
-    const auto settle = [](QSplitter* splitter, QWidget* grows, const QList<QWidget*>& minimal,
+    // info, dialog and special areas their preferred size if they hold pages
+    // already (at most a third of the splitter). An empty area is hidden; it
+    // keeps a third in store, so that its first page appears at a usable size
+    // instead of in a collapsed section.
+    const auto settle = [](QSplitter* splitter, QWidget* grows, const QList<QWidget*>& areas,
                            QWidget* preferred) {
         const bool horizontal = splitter->orientation() == Qt::Horizontal;
         const int total = horizontal ? splitter->width() : splitter->height();
+        const auto preferredSize = [horizontal](const QWidget* w) {
+            return horizontal ? qMax(w->sizeHint().width(), w->minimumWidth())
+                              : qMax(w->sizeHint().height(), w->minimumHeight());
+        };
         QList<int> sizes;
         int used = 0;
         for (int i = 0; i < splitter->count(); ++i) {
             QWidget* w = splitter->widget(i);
             int size = 0;
-            if (w == grows)
-                size = 0;
-            else if (w == preferred)
-                size = horizontal ? qMax(w->sizeHint().width(), w->minimumWidth())
-                                  : qMax(w->sizeHint().height(), w->minimumHeight());
-            else if (minimal.contains(w) && !w->isHidden())
-                size = qMin(total / 3, horizontal ? qMax(w->sizeHint().width(), w->minimumWidth())
-                                                  : qMax(w->sizeHint().height(), w->minimumHeight()));
+            if (w == preferred) {
+                size = preferredSize(w);
+            } else if (areas.contains(w)) {
+                if (w->isHidden()) {
+                    sizes << total / 3;
+                    continue;
+                }
+                size = qMin(total / 3, preferredSize(w));
+            }
             sizes << size;
             used += size;
         }
