@@ -34,24 +34,31 @@ inline void sendMouse(QWidget* widget, QEvent::Type type, const QPoint& pos, Qt:
     QCoreApplication::sendEvent(widget, &event);
 }
 
-// Presses the left button at `from` on the icon's button and moves it to `to`.
-// If that starts a drag, `during` runs inside it and the drag is cancelled
-// with Escape afterwards. Returns whether `during` ran.
-inline bool pressAndMove(OrvWidgets::OrvDragIcon* icon, const QPoint& from, const QPoint& to,
-                         const std::function<void()>& during)
+// Starts a drag with `start`; if one runs, `during` runs inside it and the drag
+// is cancelled with Escape sent to `source` afterwards. Returns whether `during` ran.
+inline bool inDrag(QWidget* source, const std::function<void()>& start, const std::function<void()>& during)
 {
-    QWidget* button = icon->toolButton();
     bool ran = false;
     QObject context; // cancels the timer when no drag started
     QTimer::singleShot(0, &context, [&] {
         during();
         ran = true;
         QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-        QCoreApplication::sendEvent(button, &escape);
+        QCoreApplication::sendEvent(source, &escape);
     });
-    sendMouse(button, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
-    sendMouse(button, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    start();
     return ran;
+}
+
+// Presses the left button at `from` on the icon's button and moves it to `to`.
+inline bool pressAndMove(OrvWidgets::OrvDragIcon* icon, const QPoint& from, const QPoint& to,
+                         const std::function<void()>& during)
+{
+    QWidget* button = icon->toolButton();
+    return inDrag(button, [&] {
+        sendMouse(button, QEvent::MouseButtonPress, from, Qt::LeftButton, Qt::LeftButton);
+        sendMouse(button, QEvent::MouseMove, to, Qt::NoButton, Qt::LeftButton);
+    }, during);
 }
 
 inline bool duringDrag(OrvWidgets::OrvDragIcon* icon, const std::function<void()>& during)
@@ -65,21 +72,13 @@ inline bool duringDrag(OrvWidgets::OrvDragIcon* icon, const std::function<void()
 // Runs `during` inside a drag owned by an arbitrary widget, then cancels it.
 inline bool duringForeignDrag(QWidget* source, const std::function<void()>& during)
 {
-    bool ran = false;
-    QObject context;
-    QTimer::singleShot(0, &context, [&] {
-        during();
-        ran = true;
-        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-        QCoreApplication::sendEvent(source, &escape);
-    });
-    auto* drag = new QDrag(source);
-    auto* mime = new QMimeData;
-    mime->setText(QStringLiteral("foreign"));
-    drag->setMimeData(mime);
-    drag->exec(Qt::CopyAction | Qt::MoveAction);
-    delete drag;
-    return ran;
+    return inDrag(source, [source] {
+        QDrag drag(source);
+        auto* mime = new QMimeData;
+        mime->setText(QStringLiteral("foreign"));
+        drag.setMimeData(mime);
+        drag.exec(Qt::CopyAction | Qt::MoveAction);
+    }, during);
 }
 
 } // namespace OrvTest

@@ -56,35 +56,51 @@ private Q_SLOTS:
         QCOMPARE(icon.maximumSize(), fixed ? QSize(40, 40) : QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX));
     }
 
+    // Rebuilding the inner button keeps its state and the relayed signals.
     void rebuildKeepsButtonState()
     {
-        OrvDragIcon icon;
+        QWidget parent;
+        auto* icon = new OrvDragIcon(&parent);
         QButtonGroup group;
         group.setExclusive(false);
         QMenu menu;
-        icon.setCheckable(true);
-        icon.setChecked(true);
-        icon.setMenu(&menu);
-        icon.addToButtonGroup(&group, 7);
-        icon.addMimeData(QStringLiteral("application/x-orv"), "payload");
-        icon.setButtonVisible(false);
-        QSignalSpy clicked(&icon, &OrvDragIcon::clicked);
+        icon->setCheckable(true);
+        icon->setChecked(true);
+        icon->setMenu(&menu);
+        icon->addToButtonGroup(&group, 7);
+        icon->addMimeData(QStringLiteral("application/x-orv"), "payload");
+        icon->setButtonVisible(false);
+        QSignalSpy clicked(icon, &OrvDragIcon::clicked);
+        QSignalSpy toggled(icon, &OrvDragIcon::toggled);
+        QSignalSpy drop(icon, &OrvDragIcon::newDropEvent);
+        QSignalSpy dropSuc(icon, &OrvDragIcon::dropSuc);
+        QSignalSpy enabled(icon, &OrvDragIcon::enabledChanged);
 
-        icon.setForceFixedSize(true); // rebuilds the inner button
-        QCOMPARE(icon.maximumSize(), QSize(40, 40));
-        QVERIFY(icon.isChecked());
-        QCOMPARE(icon.menu(), &menu);
-        QCOMPARE(group.buttons(), QList<QAbstractButton*>{icon.toolButton()});
-        QCOMPARE(group.id(icon.toolButton()), 7);
-        QVERIFY(!icon.buttonVisible());
-        QCOMPARE(icon.toolButton()->registeredMimeData().value(QStringLiteral("application/x-orv")), QByteArray("payload"));
+        icon->setForceFixedSize(true); // rebuilds the inner button
+        QCOMPARE(icon->maximumSize(), QSize(40, 40));
+        QVERIFY(icon->isChecked());
+        QCOMPARE(icon->menu(), &menu);
+        QCOMPARE(group.buttons(), QList<QAbstractButton*>{icon->toolButton()});
+        QCOMPARE(group.id(icon->toolButton()), 7);
+        QVERIFY(!icon->buttonVisible());
+        QCOMPARE(icon->toolButton()->registeredMimeData().value(QStringLiteral("application/x-orv")), QByteArray("payload"));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(icon.findChildren<OrvToolButton*>().size(), 1);
-        icon.setButtonVisible(true);
-        QVERIFY(icon.buttonVisible());
-        icon.toolButton()->click();
+        QCOMPARE(icon->findChildren<OrvToolButton*>().size(), 1);
+        icon->setButtonVisible(true);
+        QVERIFY(icon->buttonVisible());
+        icon->toolButton()->click();
         QCOMPARE(clicked.size(), 1);
-        QVERIFY(!icon.isChecked());
+        QCOMPARE(toggled.size(), 1);
+        QVERIFY(!icon->isChecked());
+        Q_EMIT icon->toolButton()->dropSuc();
+        QCOMPARE(dropSuc.size(), 1);
+        QMimeData mime;
+        QDropEvent event(QPointF(1, 1), Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
+        Q_EMIT icon->toolButton()->newDropEvent(&event);
+        QCOMPARE(drop.size(), 1);
+        parent.setEnabled(false);
+        QCOMPARE(enabled.size(), 1);
+        QCOMPARE(enabled.at(0).at(0).toBool(), false);
     }
 
     void toolTip_data()
@@ -148,9 +164,6 @@ private Q_SLOTS:
         OrvDragIcon icon;
         QVERIFY(icon.setProperty("eStyle", QStringLiteral("eIconOnly")));
         QCOMPARE(icon.buttonStyle(), eIconOnly);
-        QVERIFY(icon.setProperty("eButtonSize", QVariant::fromValue(Designer::eDefault)));
-        QVERIFY(icon.setProperty("isCheckable", true) && icon.setProperty("isChecked", true));
-        QVERIFY(icon.isChecked());
         QVERIFY(icon.setProperty("isDraggable", false));
         QVERIFY(!icon.toolButton()->isDraggable());
 
@@ -161,28 +174,6 @@ private Q_SLOTS:
         QCOMPARE(icon.icon().cacheKey(), action.icon().cacheKey());
         QTest::ignoreMessage(QtWarningMsg, "OrvDragIcon::setAction: cannot set null-action!");
         QVERIFY(!icon.setAction(nullptr));
-    }
-
-    void relays()
-    {
-        QWidget parent;
-        auto* icon = new OrvDragIcon(&parent);
-        QSignalSpy toggled(icon, &OrvDragIcon::toggled);
-        QSignalSpy drop(icon, &OrvDragIcon::newDropEvent);
-        QSignalSpy dropSuc(icon, &OrvDragIcon::dropSuc);
-        QSignalSpy enabled(icon, &OrvDragIcon::enabledChanged);
-        icon->setCheckable(true);
-        icon->toolButton()->click();
-        QCOMPARE(toggled.size(), 1);
-        Q_EMIT icon->toolButton()->dropSuc();
-        QCOMPARE(dropSuc.size(), 1);
-        QMimeData mime;
-        QDropEvent event(QPointF(1, 1), Qt::MoveAction, &mime, Qt::LeftButton, Qt::NoModifier);
-        Q_EMIT icon->toolButton()->newDropEvent(&event);
-        QCOMPARE(drop.size(), 1);
-        parent.setEnabled(false);
-        QCOMPARE(enabled.size(), 1);
-        QCOMPARE(enabled.at(0).at(0).toBool(), false);
     }
 
     void dragThreshold_data()

@@ -129,17 +129,6 @@ private Q_SLOTS:
         settings()->remove(QStringLiteral("ToolBar"), QStringLiteral("functionKeys"));
     }
 
-    void placeholderWhileEmpty()
-    {
-        Shell shell;
-        const auto placeholder = [&] { return shell.bar->findChild<QLabel*>(QStringLiteral("dummyLabel")); };
-        QVERIFY(placeholder() && !placeholder()->text().isEmpty());
-        shell.bar->addMenuEntry(shell.originals.value("a"));
-        QVERIFY(!placeholder());
-        QVERIFY(shell.bar->removeMenuAction(shell.originals.value("a")));
-        QVERIFY(placeholder());
-    }
-
     void dragRules_data()
     {
         QTest::addColumn<QString>("source");
@@ -309,10 +298,15 @@ private Q_SLOTS:
         QCOMPARE(shell.bar->functionKeys(), (KeyMap{{otherKey, "b"}}));
     }
 
-    void contextMenuRemove()
+    // Removing entries from the context menu or by call; an empty bar shows a placeholder.
+    void removeEntries()
     {
         Shell shell;
-        shell.setEntries({"a", "b"});
+        const auto placeholder = [&] { return shell.bar->findChild<QLabel*>(QStringLiteral("dummyLabel")); };
+        QVERIFY(placeholder() && !placeholder()->text().isEmpty());
+        shell.setEntries({"a"});
+        QVERIFY(!placeholder());
+        shell.bar->addMenuEntry(shell.originals.value("b"));
         QVERIFY(shell.bar->setFunctionKey(Qt::Key_F9, "a"));
         QVERIFY(shell.show());
         QMenu* menu = shell.openContextMenu("a");
@@ -323,6 +317,8 @@ private Q_SLOTS:
         QVERIFY(shell.bar->functionKeys().isEmpty());
         QCOMPARE(stored("entries").toString(), QStringLiteral("b"));
         QVERIFY(!shell.bar->removeMenuAction(shell.originals.value("a")));
+        QVERIFY(shell.bar->removeMenuAction(shell.originals.value("b")));
+        QVERIFY(placeholder());
     }
 
     void pressingBoundKeyClicksOriginal()

@@ -3,6 +3,8 @@
 #include <orv_dialog_helper.h>
 #include <orv_session_data.h>
 #include <orv_test_support.h>
+#include <orv_text_edit_dialog.h>
+#include <orv_text_editor2.h>
 #include <requirement_widget.h>
 
 #include <orv_test_widgets.h>
@@ -121,6 +123,38 @@ struct Opened
 
 using OrvTest::visibleButtons;
 
+const QString kSatisfied = QString::fromUtf8("\u2022 %1");
+const QString kFailed = QString::fromUtf8("<span style=\"color:#aa0000;\">\u2022 %1</span>");
+
+// A text edit page filled before it is shown (filling a shown page counts as an
+// edit); the frame, and with it the page, goes at scope end.
+struct TextPage
+{
+    explicit TextPage(const QString& html = QString())
+    {
+        page->setHtml(html);
+        frame->show();
+    }
+    ~TextPage() { delete frame.data(); }
+    QPushButton* button(DialogButton which) const { return frame->getButtonBox()->getButton(which); }
+    QPointer<OrvTextEditDialog> page = new OrvTextEditDialog;
+    QPointer<OrvDialogHelper> frame = page->getHelper();
+    OrvTextEditor2* editor = page->findChild<OrvTextEditor2*>();
+};
+
+// A shown plain widget holding the labels of the requirement tests.
+struct LabelPage : QWidget
+{
+    LabelPage() { show(); }
+    QLabel* label(const QString& text, const QString& toolTip = QString())
+    {
+        auto* l = new QLabel(text, this);
+        l->setToolTip(toolTip);
+        l->show();
+        return l;
+    }
+};
+
 void edit(Page* p, const QString& widget)
 {
     if (widget == "lineEdit") p->edit->setText("x");
@@ -144,7 +178,7 @@ class TestOrvDialog : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase() { QLoggingCategory::setFilterRules("qt.svg.warning=false"); }
+    void initTestCase() { QLoggingCategory::setFilterRules("qt.svg.warning=false"); } // icons are not our concern
 
     void construction_data()
     {
@@ -231,7 +265,7 @@ private Q_SLOTS:
                          "value.<br>Please change values in the elements which are marked with red text."));
         QCOMPARE(page->applies, 0);
         QVERIFY(page->hasUnsavedChanges());
-        QVERIFY(page->label->text().startsWith("<span style=\"color:#aa0000;\">"));
+        QCOMPARE(page->label->text(), kFailed.arg("Name"));
 
         page->edit->setText("filled");
         page->applyResult = false; // the page refuses: it stays changed and open
@@ -247,7 +281,7 @@ private Q_SLOTS:
         QVERIFY(!page->hasUnsavedChanges());
         QCOMPARE(reset.count(), 1);
         QCOMPARE(o.frame->windowTitle(), QString("Page"));
-        QCOMPARE(page->label->text(), QString::fromUtf8("\u2022 Name"));
+        QCOMPARE(page->label->text(), kSatisfied.arg("Name"));
         QVERIFY(!page->box()->isButtonEnabled(Ok));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(o.frame && o.frame->isVisible()); // Apply does not close
@@ -468,10 +502,8 @@ private Q_SLOTS:
         Page other;
         QCOMPARE(OrvDialog::objectCount(), pages + 2);
         QVERIFY(o.frame->testAttribute(Qt::WA_DeleteOnClose));
-        o.frame->setDialog(&other);
-        QCOMPARE(o.frame->getDialog(), o.page.data());
+        o.frame->setDialog(&other); // a frame keeps its first page
         QVERIFY(o.frame->compare(o.page) && !o.frame->compare(&other));
-        QCOMPARE(o.frame->getButtonBox(), o.page->box());
 
         QSignalSpy sizes(o.frame.data(), &OrvDialogHelper::signalSizeChanged);
         o.page->setMinimumSize(1200, 1200);
@@ -515,11 +547,170 @@ private Q_SLOTS:
         Opened o;
         QSignalSpy help(o.page.data(), &OrvDialog::signalShowOnlineHelp);
         o.page->setOnlineHelpFilename("page.html");
-        o.page->setOnlineHelpFilename("page.html");
-        QVERIFY(o.page->box()->isButtonVisible(Help));
+        o.page->setOnlineHelpFilename("page.html"); // one connection only
         o.page->box()->getButton(Help)->click();
-        QCOMPARE(help.count(), 1);
-        QCOMPARE(help.first().first().toString(), QString("page.html"));
+        QCOMPARE(help, QList<QVariantList>{{QString("page.html")}});
+    }
+
+    void requirementsDecorationAndSummary()
+    {
+        LabelPage page;
+        QLabel* name = page.label("Name", "your name");
+        QLabel* size = page.label("Size");
+        QLabel* ok = page.label("Ok");
+        bool nameOk = false;
+        UiRequirementList list;
+        list.addRequirement(UiRequirement(name, [&] { return nameOk; }, "enter a name"));
+        list.addRequirement(UiRequirement(size, [] { return false; }, QString()));
+        list.addRequirement(UiRequirement(ok, [] { return true; }, "never shown"));
+        list.addRequirement(UiRequirement());
+        QCOMPARE(name->text(), kSatisfied.arg("Name"));
+        size->setToolTip("own tip");
+        size->setCursor(Qt::IBeamCursor);
+
+        OrvTest::DialogAnswerer answerer;
+        answerer.click("Ok");
+        QVERIFY(!list.checkRequirements(&page));
+        QCOMPARE(answerer.answered(), 1); // one message for both failures
+        QCOMPARE(name->text(), kFailed.arg("Name"));
+        QCOMPARE(name->toolTip(), QString("enter a name"));
+        QCOMPARE(name->cursor().shape(), Qt::WhatsThisCursor);
+        QCOMPARE(size->text(), kFailed.arg("Size"));
+        QCOMPARE(size->toolTip(), QString("own tip")); // no warning message: tooltip and cursor untouched
+        QCOMPARE(size->cursor().shape(), Qt::IBeamCursor);
+        QCOMPARE(ok->text(), kSatisfied.arg("Ok"));
+
+        nameOk = true;
+        QVERIFY(!list.checkRequirements(nullptr)); // marks, but asks nobody
+        QCOMPARE(answerer.answered(), 1);
+        QCOMPARE(name->text(), kSatisfied.arg("Name"));
+        QCOMPARE(name->toolTip(), QString("your name"));
+        QCOMPARE(name->cursor().shape(), Qt::ArrowCursor);
+
+        list.clear();
+        QCOMPARE(name->text(), QString("Name"));
+        QCOMPARE(size->text(), QString("Size"));
+        delete size; // the page may delete labels once their requirements are cleared
+        QVERIFY(list.checkRequirements(&page));
+    }
+
+    void requirementsHiddenLabel_data()
+    {
+        QTest::addColumn<bool>("checkMe");
+        QTest::newRow("hidden") << false;
+        QTest::newRow("hidden, checkMe") << true;
+    }
+    void requirementsHiddenLabel()
+    {
+        QFETCH(bool, checkMe);
+        LabelPage page;
+        QLabel* l = page.label("Hidden");
+        l->hide();
+        if (checkMe)
+            l->setProperty("checkMe", true);
+        UiRequirementList list;
+        list.addRequirement(UiRequirement(l, [] { return false; }, QString()));
+        QCOMPARE(list.checkRequirements(nullptr), !checkMe);
+        QCOMPARE(l->text(), checkMe ? kFailed.arg("Hidden") : kSatisfied.arg("Hidden"));
+    }
+
+    void requirementsRetranslateTakesFreshText()
+    {
+        LabelPage page;
+        QLabel* l = page.label("Name");
+        bool pass = false;
+        UiRequirementList list;
+        list.addRequirement(UiRequirement(l, [&] { return pass; }, QString()));
+        list.retranslate(); // still decorated: nothing new to take
+        QCOMPARE(l->text(), kSatisfied.arg("Name"));
+        list.checkRequirements(nullptr);
+        list.retranslate(); // the red form is ours, not a translation
+        QCOMPARE(l->text(), kFailed.arg("Name"));
+        l->setText("Nom");
+        list.retranslate();
+        QCOMPARE(l->text(), kFailed.arg("Nom"));
+        pass = true;
+        QVERIFY(list.checkRequirements(nullptr));
+        QCOMPARE(l->text(), kSatisfied.arg("Nom"));
+    }
+
+    void requirementsEmptyListAndDeletedLabel()
+    {
+        LabelPage page;
+        OrvTest::DialogAnswerer answerer;
+        UiRequirementList empty;
+        QVERIFY(empty.checkRequirements(&page));
+        QLabel* l = page.label("Gone");
+        UiRequirement requirement(l, [] { return false; }, QString());
+        UiRequirementList list;
+        list.addRequirement(requirement);
+        delete l;
+        QVERIFY(!requirement.isValid());
+        QVERIFY(list.checkRequirements(&page));
+        list.retranslate();
+        list.clear();
+        QCOMPARE(answerer.answered(), 0);
+    }
+
+    // Changing only the colour makes the page appliable; applying sends the HTML
+    // as it is and with the colour placed in the body style.
+    void textEditBackgroundColorApply_data()
+    {
+        QTest::addColumn<QString>("html");
+        QTest::newRow("empty document") << QString();
+        QTest::newRow("styled text") << "<p><span style=\"font-family:'Serif';\">text</span></p>";
+    }
+    void textEditBackgroundColorApply()
+    {
+        QFETCH(QString, html);
+        TextPage o(html);
+        QCOMPARE(o.page->windowTitle(), QStringLiteral("Edit Text"));
+        o.page->setInitialBackgroundColor(Qt::white);
+        o.page->enableBackgroundColor(true);
+        QSignalSpy colour(o.page, &OrvTextEditDialog::signalBackgroundColorChanged);
+        QSignalSpy applied(o.page, &OrvTextEditDialog::signalTextApplied);
+        QSignalSpy withColour(o.page, &OrvTextEditDialog::signalTextAppliedWithBackGroundColor);
+        QVERIFY(!o.button(Apply)->isEnabled());
+
+        o.editor->setBackgroundColor(QColor(0x12, 0x34, 0xab));
+        QCOMPARE(colour.count(), 1);
+        QVERIFY(o.button(Ok)->isEnabled() && o.button(Apply)->isEnabled());
+        o.button(Apply)->click();
+        QCOMPARE(withColour.count(), 1);
+        const QString plain = applied.value(0).value(0).toString();
+        QCOMPARE(plain, o.page->getHtmlText());
+        const QString fragment = QStringLiteral("background-color:'#1234ab'; ");
+        QCOMPARE(withColour.at(0).at(0).toString(), QString(plain).insert(plain.indexOf("font-family"), fragment));
+        QVERIFY(withColour.at(0).at(0).toString().contains("<body style=\" " + fragment + "font-family:"));
+        QVERIFY(!o.page->hasUnsavedChanges());
+    }
+
+    void textEditTypingThenOkAppliesAndCloses()
+    {
+        TextPage o;
+        QSignalSpy changed(o.page, &OrvTextEditDialog::signalTextChanged);
+        QSignalSpy applied(o.page, &OrvTextEditDialog::signalTextApplied);
+        QTest::keyClicks(o.editor->textEdit(), "ab");
+        QCOMPARE(changed.count(), 2);
+        QCOMPARE(changed.last().at(0).toString(), o.page->getHtmlText());
+        o.button(Ok)->click();
+        QVERIFY(applied.value(0).value(0).toString().contains(">ab<"));
+        QTRY_VERIFY(!o.frame);
+    }
+
+    void textEditDiscardCancelsBeforeClosing()
+    {
+        TextPage o;
+        QTest::keyClicks(o.editor->textEdit(), "x");
+        QList<bool> openWhenCanceled;
+        connect(o.page, &OrvTextEditDialog::signalDialogCanceled, this,
+                [&] { openWhenCanceled << (o.frame && o.frame->isVisible()); });
+        OrvTest::DialogAnswerer answerer;
+        answerer.click("Discard");
+        o.page->closeRequest();
+        QCOMPARE(answerer.answered(), 1);
+        QCOMPARE(openWhenCanceled, QList<bool>{true});
+        QTRY_VERIFY(!o.frame);
     }
 };
 

@@ -8,9 +8,7 @@
 
 using namespace OrvWidgets;
 
-namespace {
 using OrvTest::visibleButtons;
-} // namespace
 
 class TestOrvDialogButtonBox : public QObject
 {
@@ -73,9 +71,18 @@ private Q_SLOTS:
         QCOMPARE(b->shortcut(), name == "pbClose" ? QKeySequence("Ctrl+W") : QKeySequence());
     }
 
+    // An unknown value names no button: changing it does nothing, not even the STOP message.
     void newBoxShowsOkAndClose()
     {
         OrvDialogButtonBox box;
+        const auto unknown = DialogButton(99);
+        OrvTest::DialogAnswerer answerer;
+        box.setButtonVisible(unknown, true);
+        box.setButtonEnabled(unknown, true);
+        box.setText(unknown, "x");
+        QVERIFY(!box.isButtonVisible(unknown));
+        QVERIFY(!box.isButtonEnabled(unknown));
+        QCOMPARE(answerer.answered(), 0);
         QCOMPARE(visibleButtons(&box), QStringList({"pbClose", "pbOk"}));
         QVERIFY(box.findChild<QFrame*>("line")->isVisibleTo(&box));
         QVERIFY(!box.isButtonVisible(Ok)); // the box itself is not shown yet
@@ -156,20 +163,6 @@ private Q_SLOTS:
         QSignalSpy save(&box, &OrvDialogButtonBox::signalLibrarySaveClicked);
         actions.at(1)->trigger();
         QCOMPARE(load.count() * 10 + save.count(), 1);
-    }
-
-    void unknownValueIsAbsent()
-    {
-        OrvDialogButtonBox box;
-        const auto unknown = DialogButton(99);
-        OrvTest::DialogAnswerer answerer;
-        box.setButtonVisible(unknown, true);
-        box.setButtonEnabled(unknown, true);
-        box.setText(unknown, "x");
-        QVERIFY(!box.isButtonVisible(unknown));
-        QVERIFY(!box.isButtonEnabled(unknown));
-        QCOMPARE(answerer.answered(), 0);
-        QCOMPARE(visibleButtons(&box), QStringList({"pbClose", "pbOk"}));
     }
 
     void languageChangeKeepsOwnerTexts()

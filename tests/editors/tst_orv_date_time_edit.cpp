@@ -403,9 +403,6 @@ private Q_SLOTS:
     void propertiesAndTranslation()
     {
         OrvDateTimeEdit edit(nullptr, true);
-        edit.setSubWidgetsProperties(QStringLiteral("mode"), 3);
-        for (const char* name : kFields)
-            QCOMPARE(field(edit, name)->property("mode").toInt(), 3);
         QVERIFY(edit.setProperty("readOnly", true));
         QVERIFY(field(edit, "leLongYear")->isReadOnly());
         QVERIFY(edit.setProperty("editTimezone", false));

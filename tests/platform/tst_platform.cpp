@@ -1,9 +1,8 @@
 #include <dax_logger.h>
 #include <dax_translation.h>
-#include <idl_types.h>
+#include <dtg.h>
 #include <orv_session_data.h>
 #include <orv_settings.h>
-#include <tab_bar_tab_style.h>
 
 #include <QtTest>
 
@@ -13,6 +12,12 @@ class TestPlatform : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void cleanup()
+    {
+        DTG::setTimezone('Z');
+        DTG::setDateTimeType(DTG::eZulu);
+    }
+
     void rights_data()
     {
         QTest::addColumn<int>("held");
@@ -30,12 +35,9 @@ private Q_SLOTS:
         QFETCH(int, held);
         QFETCH(int, asked);
         QFETCH(bool, granted);
-        auto* session = Session::getInstance();
-        QCOMPARE(session, Session::getInstance());
-        session->setOperatorRights(held);
-        QCOMPARE(session->operatorRights(), held);
-        QCOMPARE(session->hasOperatorRight(asked), granted);
-        session->setOperatorRights(0);
+        Session::getInstance()->setOperatorRights(held);
+        QCOMPARE(Session::getInstance()->hasOperatorRight(asked), granted);
+        Session::getInstance()->setOperatorRights(0);
     }
 
     void tablet()
@@ -75,7 +77,6 @@ private Q_SLOTS:
     {
         QTemporaryDir dir;
         auto* settings = OrvUtils::ProjectSettings::getInstance();
-        QCOMPARE(settings, OrvUtils::ProjectSettings::getInstance());
         QVERIFY(static_cast<void*>(settings) != static_cast<void*>(OrvUtils::OperatorSettings::getInstance()));
         settings->setFileName(dir.filePath("a.ini"));
         settings->setValue("exm", "enableEditPhases", true);
@@ -140,20 +141,84 @@ private Q_SLOTS:
         QCOMPARE(Dax::translationLocale(), QByteArray("en_GB"));
     }
 
-    void tabStyleColoursAreDistinct()
+    void dtgZoneLetters_data()
     {
-        const QList<QColor> colours = {
-            Styles::TabBarTabStyle::primaryNormal(),   Styles::TabBarTabStyle::primarySelected(),
-            Styles::TabBarTabStyle::primaryDisabled(), Styles::TabBarTabStyle::secondaryNormal(),
-            Styles::TabBarTabStyle::secondarySelected(), Styles::TabBarTabStyle::secondaryDisabled(),
-        };
-        for (int i = 0; i < colours.size(); ++i) {
-            QVERIFY(colours[i].isValid());
-            QCOMPARE(colours[i].alpha(), 255);
-            for (int j = i + 1; j < colours.size(); ++j)
-                QVERIFY(colours[i] != colours[j]);
-        }
-        QCOMPARE(int(IDL::Replay), 4);
+        QTest::addColumn<char>("zone");
+        QTest::addColumn<bool>("valid");
+        QTest::addColumn<int>("hours");
+        const char* east = "ABCDEFGHI";
+        for (int i = 0; i < 9; ++i)
+            QTest::addRow("%c", east[i]) << east[i] << true << i + 1;
+        for (char c : {'K', 'L', 'M'})
+            QTest::addRow("%c", c) << c << true << c - 'K' + 10;
+        const char* west = "NOPQRSTUVWXY";
+        for (int i = 0; i < 12; ++i)
+            QTest::addRow("%c", west[i]) << west[i] << true << -(i + 1);
+        QTest::newRow("Z") << 'Z' << true << 0;
+        QTest::newRow("J is local time, no letter") << 'J' << false << 0;
+        for (char c : {'a', 'z', '1', '\0', '@', '['})
+            QTest::addRow("invalid %d", c) << c << false << 0;
+    }
+    void dtgZoneLetters()
+    {
+        QFETCH(char, zone);
+        QFETCH(bool, valid);
+        QFETCH(int, hours);
+        bool ok = !valid;
+        QCOMPARE(DTG::timezone2Secs(zone, &ok), hours * 3600);
+        QCOMPARE(ok, valid);
+        QCOMPARE(DTG::isTimezoneValid(zone), valid);
+        QCOMPARE(DTG::timezone2Secs(zone, nullptr), hours * 3600); // null ok pointer is allowed
+    }
+
+    void dtgFormats_data()
+    {
+        QTest::addColumn<int>("format");
+        QTest::addColumn<int>("type");
+        QTest::addColumn<char>("zone");
+        QTest::addColumn<QString>("expected");
+        // 2026-11-14 15:30:07 UTC
+        QTest::newRow("short zulu") << int(DTG::eShort) << int(DTG::eZulu) << 'B' << "141530Z";
+        QTest::newRow("short seconds") << int(DTG::eShortSeconds) << int(DTG::eZulu) << 'Z' << "14153007Z";
+        QTest::newRow("long") << int(DTG::eLong) << int(DTG::eZulu) << 'Z' << "141530Z NOV 26";
+        QTest::newRow("long seconds") << int(DTG::eLongSeconds) << int(DTG::eZulu) << 'Z' << "14153007Z NOV 26";
+        QTest::newRow("local B +1") << int(DTG::eShort) << int(DTG::eLocalZone) << 'B' << "141730B";
+        QTest::newRow("local M +12 next day") << int(DTG::eLong) << int(DTG::eLocalZone) << 'M' << "150330M NOV 26";
+        QTest::newRow("local Y -12") << int(DTG::eLongSeconds) << int(DTG::eLocalZone) << 'Y' << "14033007Y NOV 26";
+        QTest::newRow("local Z") << int(DTG::eShort) << int(DTG::eLocalZone) << 'Z' << "141530Z";
+    }
+    void dtgFormats()
+    {
+        QFETCH(int, format);
+        QFETCH(int, type);
+        QFETCH(char, zone);
+        QFETCH(QString, expected);
+        DTG::setTimezone(zone);
+        const QDateTime instant(QDate(2026, 11, 14), QTime(15, 30, 7), Qt::UTC);
+        QCOMPARE(DTG::toString(instant, DTG::DisplayFormat(format), DTG::DateTimeType(type)), expected);
+        // A local-time input describes the same instant.
+        QCOMPARE(DTG::toString(instant.toOffsetFromUtc(-5 * 3600), DTG::DisplayFormat(format),
+                               DTG::DateTimeType(type)),
+                 expected);
+        DTG::setDateTimeType(DTG::DateTimeType(type));
+        QCOMPARE(DTG::toStringMSec(instant.toMSecsSinceEpoch(), DTG::DisplayFormat(format)), expected);
+    }
+
+    void dtgYearBoundary()
+    {
+        DTG::setTimezone('N');
+        const QDateTime newYear(QDate(2027, 1, 1), QTime(0, 30), Qt::UTC);
+        QCOMPARE(DTG::toString(newYear, DTG::eLong, DTG::eLocalZone), QStringLiteral("312330N DEC 26"));
+        QCOMPARE(DTG::toString(QDateTime(), DTG::eLong, DTG::eZulu), QString());
+    }
+
+    void dtgInvalidZoneIsRefused()
+    {
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("DTG::setTimezone: invalid zone letter"));
+        DTG::setTimezone('J');
+        QCOMPARE(DTG::timezone(), 'Z');
+        DTG::setTimezone('Q');
+        QCOMPARE(DTG::timezone(), 'Q');
     }
 };
 
