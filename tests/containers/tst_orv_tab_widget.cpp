@@ -241,7 +241,7 @@ private Q_SLOTS:
     void currentTabChange()
     {
         OrvTabWidget tabs(nullptr, false);
-        add(tabs, "G", "a");
+        Page* first = add(tabs, "G", "a");
         auto* b = new Page;
         tabs.addTab("G", "b", frame(b), true, false);
         QSignalSpy focused(b, &OrvDialog::signalFocused);
@@ -249,10 +249,21 @@ private Q_SLOTS:
         QVERIFY(Styles::TabBarTabStyle::primarySelected() != Styles::TabBarTabStyle::primaryNormal());
         QCOMPARE(colour(0), Styles::TabBarTabStyle::primarySelected());
         QCOMPARE(colour(1), Styles::TabBarTabStyle::primaryNormal());
+        // Only the page in front takes updates, so that switching stays cheap
+        // however many pages are open; a page taken elsewhere paints again.
+        QVERIFY(frame(first)->updatesEnabled());
+        QVERIFY(!frame(b)->updatesEnabled());
         tabs.setCurrentIndex(1);
         QCOMPARE(focused.count(), 1);
         QCOMPARE(colour(0), Styles::TabBarTabStyle::primaryNormal());
         QCOMPARE(colour(1), Styles::TabBarTabStyle::primarySelected());
+        QVERIFY(frame(b)->updatesEnabled());
+        QWidget* a = tabs.widget(0);
+        QVERIFY(!a->updatesEnabled());
+        tabs.removeTab(0);
+        QWidget elsewhere;
+        a->setParent(&elsewhere);
+        QVERIFY(a->updatesEnabled());
     }
 
     void saveAsImage()

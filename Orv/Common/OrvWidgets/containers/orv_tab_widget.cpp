@@ -194,7 +194,14 @@ void OrvTabBar::onSaveCurrentWidgetAsImage(const QPoint& pos)
         if (helper->getDialog())
             widget = helper->getDialog();
     }
-    postToApplication(new SaveImageEvent(widget, widget->grab()));
+    // A page in the background has its updates paused; it paints for the picture.
+    const bool paused = !widget->updatesEnabled();
+    if (paused)
+        widget->setUpdatesEnabled(true);
+    QPixmap picture = widget->grab();
+    if (paused)
+        widget->setUpdatesEnabled(false);
+    postToApplication(new SaveImageEvent(widget, std::move(picture)));
 }
 
 // --- OrvTabWidget ---------------------------------------------------------------
@@ -405,8 +412,47 @@ void OrvTabWidget::slotWindowTitleChanged(const QString& title)
     }
 }
 
+// Switching tabs makes Qt's stacked layout walk every widget of every page to
+// pause and resume updates, so a switch cost grew with the number of open
+// pages. Pages that are not shown keep their updates paused instead; the walk
+// skips them and only touches the page coming to front.
+void OrvTabWidget::switchPageUpdates(int current)
+{
+    QWidget* page = widget(current);
+    if (m_updatingPage && m_updatingPage != page && indexOf(m_updatingPage) >= 0)
+        m_updatingPage->setUpdatesEnabled(false);
+    if (page)
+        page->setUpdatesEnabled(true);
+    m_updatingPage = page;
+}
+
+void OrvTabWidget::tabInserted(int index)
+{
+    QTabWidget::tabInserted(index);
+    QWidget* page = widget(index);
+    if (!page)
+        return;
+    page->installEventFilter(this);
+    if (index != currentIndex())
+        page->setUpdatesEnabled(false);
+}
+
+bool OrvTabWidget::eventFilter(QObject* watched, QEvent* event)
+{
+    // A page taken elsewhere paints again wherever it goes.
+    if (event->type() == QEvent::ParentChange) {
+        auto* page = qobject_cast<QWidget*>(watched);
+        if (page && indexOf(page) < 0) {
+            page->removeEventFilter(this);
+            page->setUpdatesEnabled(true);
+        }
+    }
+    return QTabWidget::eventFilter(watched, event);
+}
+
 void OrvTabWidget::slotCurrentChanged(int newIdx)
 {
+    switchPageUpdates(newIdx);
     QWidget* w = widget(newIdx);
     if (!w)
         return;

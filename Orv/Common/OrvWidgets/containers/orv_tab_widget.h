@@ -7,6 +7,7 @@
 #include <QColor>
 #include <QLineF>
 #include <QMap>
+#include <QPointer>
 #include <QPalette>
 #include <QPoint>
 #include <QRectF>
@@ -100,6 +101,10 @@ public Q_SLOTS:
     void slotCurrentChanged(int newIdx);
     void slotMaximizeButtonClicked();
 
+protected:
+    void tabInserted(int index) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private Q_SLOTS:
     void slotWindowTitleChanged(const QString& title);
     void onWidgetDestroyed(QObject* object);
@@ -111,6 +116,7 @@ private:
     void closeRequestTabWidget(OrvTabWidget* tabWidget);
     static OrvDialog* dialogOf(QWidget* widget);
     static QString joinedKey(const QString& menuGroup, const QString& identifier);
+    void switchPageUpdates(int current);
 
     QPoint startPos;
     OrvTabBar* m_tabbar = nullptr;
@@ -119,6 +125,8 @@ private:
     bool m_hasSubTabs = false;
     bool m_isSecondary = false;
     QByteArray m_mainSplitterState;
+    // The one page whose updates are on; the others are paused (see switchPageUpdates).
+    QPointer<QWidget> m_updatingPage;
 };
 
 } // namespace OrvWidgets

@@ -9,6 +9,7 @@
 #include <idl_types.h>
 
 #include <QList>
+#include <QMultiHash>
 #include <QMap>
 #include <QPointer>
 #include <QStringList>
@@ -168,6 +169,8 @@ private:
     void installTimeContextMenu(QWidget* label, const std::function<qint64()>& milliseconds);
 
     OrvDragIcon* createButton(const PluginData& data);
+    OrvDragIcon* buttonFor(const QString& identifier) const;
+    void runMenuEntry(OrvDragIcon* button);
     void executePluginData(const PluginData& data);
     OrvToolBox* getToolBox(const ExercisePart& part) const;
     QWidget* getExercisePartButton(const ExercisePart& part) const;
@@ -181,6 +184,8 @@ private:
 
     ExerciseData m_exerciseData;
     QMap<OrvDragIcon*, PluginData> m_mapButtons;
+    // The same buttons by identifier, so that lookups do not walk the whole menu.
+    QMultiHash<QString, OrvDragIcon*> m_buttonsByIdentifier;
     QList<int> m_mainSplitterSizes;
     QList<int> m_menuSplitterSizes;
     bool m_isHidden = false;

@@ -308,14 +308,7 @@ void OrvBaseLayoutWidget::slotOperatorMenuClicked()
     auto* menu = new OrvOperatorMenu(m_operatorName, m_workspaceId, true, m_screenCount, this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
     menu->setTerminalButton(m_showTerminalButton);
-    bool settings = false;
-    for (auto it = m_mapButtons.cbegin(); it != m_mapButtons.cend(); ++it) {
-        if (it.value().identifier == QLatin1String("_OpmShowOperatorSettings")) {
-            settings = true;
-            break;
-        }
-    }
-    menu->setOperatorSettingsButton(settings);
+    menu->setOperatorSettingsButton(buttonFor(QStringLiteral("_OpmShowOperatorSettings")) != nullptr);
     connect(menu, &OrvOperatorMenu::signalLogout, this, &OrvBaseLayoutWidget::slotLogout);
     connect(menu, &OrvOperatorMenu::signalExit, this, &OrvBaseLayoutWidget::slotClose);
     connect(menu, &OrvOperatorMenu::signalShowOperatorSettings, this,

@@ -13,6 +13,9 @@
 #include <QLoggingCategory>
 #include <QTimer>
 
+#include <algorithm>
+#include <functional>
+
 Q_DECLARE_LOGGING_CATEGORY(lcShell)
 
 namespace OrvWidgets {
@@ -102,10 +105,7 @@ OrvDragIcon* OrvBaseLayoutWidget::addMenuAction(const PluginData& data, bool exe
         return nullptr;
 
     if (!executeCreateInstant) {
-        for (auto it = m_mapButtons.cbegin(); it != m_mapButtons.cend(); ++it) {
-            OrvDragIcon* button = it.key();
-            if (button->objectName() != data.identifier)
-                continue;
+        if (OrvDragIcon* button = buttonFor(data.identifier)) {
             button->setText(data.menuText);
             button->setContext(data.menuGroup);
             bool found = false;
@@ -167,6 +167,7 @@ OrvDragIcon* OrvBaseLayoutWidget::addMenuAction(const PluginData& data, bool exe
         button = createButton(data);
         grid->add_widget(button);
         m_mapButtons.insert(button, data);
+        m_buttonsByIdentifier.insert(data.identifier, button);
         if (m_notFoundYet.removeAll(data.identifier) > 0)
             m_ui->toolBar->addMenuEntry(button, nullptr);
         scheduleToolBarRestore();
@@ -190,13 +191,18 @@ OrvDragIcon* OrvBaseLayoutWidget::createButton(const PluginData& data)
     button->setDropHandlerKey(data.dropHandlerKey);
     button->setIdentifier(data.identifier);
     connect(button, &QObject::destroyed, this, [] { qCDebug(lcShell) << "OrvDragIcon was destroyed"; });
-    connect(button, &OrvDragIcon::clicked, this, &OrvBaseLayoutWidget::onMenuEntryClicked);
+    // Not the sender() slot: finding the sender costs a walk over every connected button.
+    connect(button, &OrvDragIcon::clicked, this, [this, button] { runMenuEntry(button); });
     return button;
 }
 
 void OrvBaseLayoutWidget::onMenuEntryClicked()
 {
-    auto* button = qobject_cast<OrvDragIcon*>(sender());
+    runMenuEntry(qobject_cast<OrvDragIcon*>(sender()));
+}
+
+void OrvBaseLayoutWidget::runMenuEntry(OrvDragIcon* button)
+{
     if (!button)
         return;
     const auto it = m_mapButtons.constFind(button);
@@ -230,14 +236,24 @@ void OrvBaseLayoutWidget::executeCreateInstantFunctions(const PluginData& data)
         data.directFunc(data);
 }
 
+OrvDragIcon* OrvBaseLayoutWidget::buttonFor(const QString& identifier) const
+{
+    // Several buttons may share an identifier (instant entries are not checked);
+    // the first in the button map's order answers, as a walk over the map would.
+    OrvDragIcon* first = nullptr;
+    for (auto it = m_buttonsByIdentifier.constFind(identifier);
+         it != m_buttonsByIdentifier.cend() && it.key() == identifier; ++it) {
+        if (!first || std::less<OrvDragIcon*>()(it.value(), first))
+            first = it.value();
+    }
+    return first;
+}
+
 void OrvBaseLayoutWidget::executeAction(const QString& identifier)
 {
-    for (auto it = m_mapButtons.cbegin(); it != m_mapButtons.cend(); ++it) {
-        if (it.value().identifier == identifier) {
-            const PluginData data = it.value();
-            executePluginData(data);
-            return;
-        }
+    if (OrvDragIcon* button = buttonFor(identifier)) {
+        const PluginData data = m_mapButtons.value(button);
+        executePluginData(data);
     }
 }
 
@@ -248,6 +264,7 @@ bool OrvBaseLayoutWidget::removeMenuAction(OrvDragIcon* button)
         return false;
     const QString menuGroup = it.value().menuGroup;
     const ExercisePart part = m_bg ? it.value().exercisePart : eSpecial;
+    m_buttonsByIdentifier.remove(it.value().identifier, button);
     m_mapButtons.erase(it);
     button->setParent(nullptr);
     button->deleteLater();
@@ -262,11 +279,8 @@ bool OrvBaseLayoutWidget::removeMenuAction(const PluginData& data)
 
 bool OrvBaseLayoutWidget::removeMenuAction(const QString& identifier)
 {
-    for (auto it = m_mapButtons.cbegin(); it != m_mapButtons.cend(); ++it) {
-        if (it.value().identifier == identifier)
-            return removeMenuAction(it.key());
-    }
-    return false;
+    OrvDragIcon* button = buttonFor(identifier);
+    return button && removeMenuAction(button);
 }
 
 void OrvBaseLayoutWidget::checkMenuGroup(const QString& menuGroup, const ExercisePart& part)
@@ -294,6 +308,7 @@ void OrvBaseLayoutWidget::clearMenuActions()
     checkExercisePartButtonVisibility();
     const QList<OrvDragIcon*> buttons = m_mapButtons.keys();
     m_mapButtons.clear();
+    m_buttonsByIdentifier.clear();
     qDeleteAll(buttons);
 }
 
@@ -351,13 +366,10 @@ void OrvBaseLayoutWidget::setToolBarActions(const QList<QString>& identifiers)
     m_notFoundYet = identifiers;
     QList<OrvDragIcon*> buttons;
     for (const QString& identifier : identifiers) {
-        bool found = false;
-        for (auto it = m_mapButtons.cbegin(); it != m_mapButtons.cend(); ++it) {
-            if (it.value().identifier == identifier) {
-                buttons << it.key();
-                found = true;
-            }
-        }
+        QList<OrvDragIcon*> matches = m_buttonsByIdentifier.values(identifier);
+        std::sort(matches.begin(), matches.end(), std::less<OrvDragIcon*>());
+        buttons << matches;
+        const bool found = !matches.isEmpty();
         // The others follow when addMenuAction creates their buttons.
         if (found)
             m_notFoundYet.removeAll(identifier);
