@@ -15,6 +15,7 @@
 #include <orv_dialog_helper.h>
 #include <orv_drag_icon.h>
 #include <orv_events.h>
+#include <orv_operator_menu.h>
 #include <orv_tab_widget.h>
 
 #include <QAbstractButton>
@@ -218,11 +219,25 @@ private Q_SLOTS:
         m_demo->openEntry(QStringLiteral("run.control"));
         QPushButton* start = currentPage(shell, eInfoTab)->findChild<QPushButton*>(QStringLiteral("pbStart"));
         const auto english = qScopeGuard([] { Dax::setTranslationLocale("en_GB", QStringLiteral("qeb")); });
-        Dax::setTranslationLocale("de_DE", QStringLiteral("qeb"));
+        // As the operator does it: the language buttons of the operator menu.
+        const auto chooseLanguage = [shell](const char* buttonName) {
+            QVERIFY(QMetaObject::invokeMethod(shell, "slotOperatorMenuClicked"));
+            OrvOperatorMenu* menu = nullptr;
+            for (QWidget* w : QApplication::topLevelWidgets()) {
+                if (auto* candidate = qobject_cast<OrvOperatorMenu*>(w); candidate && candidate->isVisible())
+                    menu = candidate;
+            }
+            QVERIFY(menu);
+            auto* button = menu->findChild<QAbstractButton*>(QLatin1String(buttonName));
+            QVERIFY(button);
+            button->click();
+            menu->close();
+        };
+        chooseLanguage("pbGer");
         QTRY_COMPARE(textOf(QStringLiteral("plan.participants")), QStringLiteral("Teilnehmer"));
         QTRY_COMPARE(start->text(), QStringLiteral("Starten"));
         QCOMPARE(shell->getTabFromLayoutArea(eInfoTab)->tabText(0), QStringLiteral("Übungssteuerung"));
-        Dax::setTranslationLocale("en_GB", QStringLiteral("qeb"));
+        chooseLanguage("pbInt");
         QTRY_COMPARE(textOf(QStringLiteral("plan.participants")), QStringLiteral("Participants"));
         QTRY_COMPARE(start->text(), QStringLiteral("Start"));
     }
