@@ -65,11 +65,17 @@ void fill(QStandardItemModel& model)
     }
 }
 
-QList<int> visibleSourceRows(const QSortFilterProxyModel& proxy)
+QList<int> sourceRowsInOrder(const QSortFilterProxyModel& proxy)
 {
     QList<int> rows;
     for (int i = 0; i < proxy.rowCount(); ++i)
         rows << proxy.mapToSource(proxy.index(i, 0)).row();
+    return rows;
+}
+
+QList<int> visibleSourceRows(const QSortFilterProxyModel& proxy)
+{
+    QList<int> rows = sourceRowsInOrder(proxy);
     std::sort(rows.begin(), rows.end());
     return rows;
 }
@@ -89,6 +95,8 @@ private Q_SLOTS:
     void lessThan_data();
     void lessThan();
     void sortsNumbersAsNumbers();
+    void orderMatchesPairwiseRule_data();
+    void orderMatchesPairwiseRule();
     void literalMatchingAgreesWithExpressions();
 };
 
@@ -112,6 +120,10 @@ void tst_OrvColumnFilterProxyModel::filters_data()
     QTest::newRow("contains anywhere, any case") << Filters{{2, "AP"}} << Filters{} << QList<int>{0, 5};
     QTest::newRow("expression") << Filters{{2, "an+a$"}} << Filters{} << QList<int>{2};
     QTest::newRow("alternation") << Filters{{1, "y|z"}} << Filters{} << QList<int>{1, 3, 4};
+    QTest::newRow("expression with literal") << Filters{{2, "AN.n"}} << Filters{} << QList<int>{2};
+    QTest::newRow("optional letter") << Filters{{2, "apx?"}} << Filters{} << QList<int>{0, 5};
+    QTest::newRow("optional group") << Filters{{2, "(x)?err"}} << Filters{} << QList<int>{3};
+    QTest::newRow("counted repetition") << Filters{{2, "AP{1,2}LE"}} << Filters{} << QList<int>{0};
     QTest::newRow("invalid filters nothing") << Filters{{2, "("}} << Filters{} << all;
     QTest::newRow("invalid beside valid") << Filters{{2, "("}, {1, "x"}} << Filters{} << QList<int>{0, 2, 5};
     QTest::newRow("and across columns") << Filters{{1, "x"}, {2, "p"}} << Filters{} << QList<int>{0, 5};
@@ -296,6 +308,67 @@ void tst_OrvColumnFilterProxyModel::sortsNumbersAsNumbers()
     QCOMPARE(proxy.index(1, 0).data().toString(), QStringLiteral("1"));
 }
 
+// Sorts large enough to rank the rows must order exactly as the pairwise rule
+// does, whatever the mix of values (ties keep their order, inconsistent pairs
+// give whatever the pairwise sort gives), also over filtered rows.
+void tst_OrvColumnFilterProxyModel::orderMatchesPairwiseRule_data()
+{
+    QTest::addColumn<QVariantList>("values");
+    QTest::newRow("numbers with ties") << QVariantList{"5", "5.0", "-0", "0", "1e1", "10", "-3", "2.5", "inf"};
+    QTest::newRow("words with ties") << QVariantList{"b", "a", "B", "abc", "a", "Z", ""};
+    QTest::newRow("numbers before words") << QVariantList{"10", "9", "-1", "2.5", "abc", "Zeta", "b"};
+    QTest::newRow("words before numbers") << QVariantList{"#a", "!", "#b", "10", "9", "2"};
+    QTest::newRow("numbers among words") << QVariantList{"9", "10", "1a", "abc", "05"};
+    QTest::newRow("not a number") << QVariantList{"nan", "1", "2", "-inf", "1"};
+    QTest::newRow("values") << QVariantList{10, 9.5, -2, qlonglong(1) << 60, "7", 7.0};
+    QTest::newRow("values and words") << QVariantList{10, 2.5, "abc", "b", 100};
+    QTest::newRow("cells without text") << QVariantList{QVariant(), "3", "1", "2"};
+}
+
+void tst_OrvColumnFilterProxyModel::orderMatchesPairwiseRule()
+{
+    QFETCH(QVariantList, values);
+    struct Reference : QSortFilterProxyModel
+    {
+        bool lessThan(const QModelIndex& left, const QModelIndex& right) const override
+        {
+            const QVariant a = left.data(), b = right.data();
+            if (a.canConvert<QString>() && b.canConvert<QString>()) {
+                bool aNumber = false, bNumber = false;
+                const double x = a.toString().toDouble(&aNumber), y = b.toString().toDouble(&bNumber);
+                return aNumber && bNumber ? x < y : a.toString() < b.toString();
+            }
+            return a.canConvert<double>() && b.canConvert<double>() && a.toDouble() < b.toDouble();
+        }
+    };
+    QStandardItemModel model(300, 2);
+    for (int row = 0; row < model.rowCount(); ++row) {
+        model.setData(model.index(row, 0), values.at((row * 7 + row / 5) % values.size()));
+        model.setData(model.index(row, 1), row % 3 ? "x" : "y");
+    }
+    OrvColumnFilterProxyModel proxy;
+    Reference reference;
+    proxy.setSourceModel(&model);
+    reference.setSourceModel(&model);
+    for (const Qt::SortOrder sortOrder : {Qt::AscendingOrder, Qt::DescendingOrder, Qt::AscendingOrder}) {
+        proxy.sort(0, sortOrder);
+        reference.sort(0, sortOrder);
+        QCOMPARE(sourceRowsInOrder(proxy), sourceRowsInOrder(reference));
+    }
+    // Filtered, then a cell edited in place, then the filter gone again.
+    proxy.setColumnStringFilter(QStringLiteral("x"), 1);
+    reference.setFilterKeyColumn(1);
+    reference.setFilterFixedString(QStringLiteral("x"));
+    proxy.sort(0, Qt::DescendingOrder);
+    reference.sort(0, Qt::DescendingOrder);
+    QCOMPARE(sourceRowsInOrder(proxy), sourceRowsInOrder(reference));
+    model.setData(model.index(4, 0), values.first());
+    QCOMPARE(sourceRowsInOrder(proxy), sourceRowsInOrder(reference));
+    proxy.setColumnStringFilter(QString(), 1);
+    reference.setFilterFixedString(QString());
+    QCOMPARE(sourceRowsInOrder(proxy), sourceRowsInOrder(reference));
+}
+
 // Patterns without expression syntax are matched by a case-folded substring
 // search: it must find exactly what the expression finds, for every character.
 void tst_OrvColumnFilterProxyModel::literalMatchingAgreesWithExpressions()
@@ -325,7 +398,7 @@ void tst_OrvColumnFilterProxyModel::literalMatchingAgreesWithExpressions()
         rowAt.insert(rowAt.size(), texts.at(row).size() + 1, row);
     }
 
-    QStringList patterns{QStringLiteral("Ks"), QStringLiteral("sK")};
+    QStringList patterns{QStringLiteral("Ks"), QStringLiteral("sK"), QStringLiteral("[x]?K"), QStringLiteral("(?:z)?s")};
     for (QChar c : QStringLiteral("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789 !\"#%&',-/:;<=>@_~"))
         patterns << QString(c);
     for (const QString& pattern : patterns) {

@@ -2,6 +2,7 @@
 #include "orv_column_filter_proxy_model_p.h"
 
 #include <QAbstractItemModel>
+#include <QtAlgorithms>
 
 #include <cmath>
 #include <cstring>
@@ -11,25 +12,122 @@ namespace OrvWidgets {
 
 namespace ColumnFilter {
 
+namespace {
+
+// ASCII letters fold the same way in both engines (k and s included, whose
+// caseless sets contain the Kelvin sign and the long s in both); the
+// punctuation here is no syntax outside brackets and has no case.
+bool isLiteralChar(char16_t c)
+{
+    if ((c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9'))
+        return true;
+    switch (c) {
+    case u' ': case u'!': case u'"': case u'#': case u'%': case u'&': case u'\'':
+    case u',': case u'-': case u'/': case u':': case u';': case u'<': case u'=':
+    case u'>': case u'@': case u'_': case u'~':
+        return true;
+    default:
+        return false;
+    }
+}
+
+// Escapes that match one character of a class, an escaped punctuation
+// character, or an assertion; anything else (quoting, back references,
+// properties, code points) takes arguments this scan does not read.
+bool isSimpleEscape(char16_t c)
+{
+    if (c >= 0x80 || c < 0x20)
+        return false;
+    if ((c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9'))
+        return QStringView(u"dDwWsShHvVbBAzZG").contains(QChar(c));
+    return true;
+}
+
+} // namespace
+
 bool isLiteralPattern(const QString& pattern)
 {
-    // ASCII letters fold the same way in both engines (k and s included, whose
-    // caseless sets contain the Kelvin sign and the long s in both); the
-    // punctuation here is no syntax outside brackets and has no case.
     for (const QChar ch : pattern) {
-        const char16_t c = ch.unicode();
-        if ((c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9'))
-            continue;
-        switch (c) {
-        case u' ': case u'!': case u'"': case u'#': case u'%': case u'&': case u'\'':
-        case u',': case u'-': case u'/': case u':': case u';': case u'<': case u'=':
-        case u'>': case u'@': case u'_': case u'~':
-            continue;
-        default:
+        if (!isLiteralChar(ch.unicode()))
             return false;
-        }
     }
     return !pattern.isEmpty();
+}
+
+QString requiredLiteral(const QString& pattern)
+{
+    // Outside groups and without alternation every atom is matched in turn,
+    // so adjacent literal characters that no quantifier makes optional or
+    // repeats appear side by side in every match. Constructs that change how
+    // the rest reads (inline options, verbs, quoting, conditionals) give up.
+    QString best;
+    QString run;
+    auto endRun = [&]() {
+        if (run.size() > best.size())
+            best = run;
+        run.clear();
+    };
+    int depth = 0;
+    const qsizetype size = pattern.size();
+    auto at = [&](qsizetype i) { return i < size ? pattern.at(i).unicode() : char16_t(0); };
+    for (qsizetype i = 0; i < size; ++i) {
+        const char16_t c = at(i);
+        const char16_t next = at(i + 1);
+        switch (c) {
+        case u'|':
+            return {};
+        case u'\\':
+            if (!isSimpleEscape(next))
+                return {};
+            endRun();
+            ++i;
+            continue;
+        case u'[':
+            endRun();
+            i += at(i + 1) == u'^' ? 2 : 1;
+            if (at(i) == u']')
+                ++i;
+            for (; i < size && at(i) != u']'; ++i) {
+                if (at(i) == u'[' || (at(i) == u'\\' && !isSimpleEscape(at(i + 1))))
+                    return {};
+                if (at(i) == u'\\')
+                    ++i;
+            }
+            if (i >= size)
+                return {};
+            continue;
+        case u'(':
+            endRun();
+            if (next == u'*')
+                return {};
+            if (next == u'?') {
+                const char16_t kind = at(i + 2);
+                const bool lookBehind = kind == u'<' && (at(i + 3) == u'=' || at(i + 3) == u'!');
+                if (kind != u':' && kind != u'=' && kind != u'!' && kind != u'>' && !lookBehind)
+                    return {};
+            }
+            ++depth;
+            continue;
+        case u')':
+            endRun();
+            if (--depth < 0)
+                return {};
+            continue;
+        case u'{':
+            endRun();
+            while (i + 1 < size && at(i + 1) != u'}')
+                ++i;
+            continue;
+        default:
+            break;
+        }
+        if (depth == 0 && isLiteralChar(c) && next != u'?' && next != u'*' && next != u'+' && next != u'{')
+            run += QChar(c);
+        else
+            endRun();
+    }
+    endRun();
+    return best;
 }
 
 bool isWellFormedUtf16(QStringView text)
@@ -130,6 +228,33 @@ void OrvColumnFilterProxyModelPrivate::forgetSortKeys()
         sortBlockGeneration.assign(sortBlockGeneration.size(), 0);
         sortGeneration = 1;
     }
+    forgetRanks();
+}
+
+void OrvColumnFilterProxyModelPrivate::forgetRanks()
+{
+    rankColumn = -1;
+    ranksRefused = false;
+    keyComparisons = 0;
+    acceptedRanksValid = false;
+    rankComparisons = 0;
+}
+
+void OrvColumnFilterProxyModelPrivate::copyAcceptedRanks()
+{
+    // Bits past the ranked rows stay clear: those rows compare by their ranks.
+    const size_t words = (ranks.size() + 63) >> 6;
+    acceptedBits.resize(words, 0);
+    if (ranks.size() & 63)
+        acceptedBits[words - 1] &= (quint64(1) << (ranks.size() & 63)) - 1;
+    acceptedBefore.resize(words);
+    acceptedRanks.clear();
+    for (size_t word = 0; word < words; ++word) {
+        acceptedBefore[word] = quint32(acceptedRanks.size());
+        for (quint64 bits = acceptedBits[word]; bits; bits &= bits - 1)
+            acceptedRanks.push_back(ranks[(word << 6) + size_t(qCountTrailingZeroBits(bits))]);
+    }
+    acceptedRanksValid = true;
 }
 
 const QString& OrvColumnFilterProxyModelPrivate::filterText(const QAbstractItemModel* model,
@@ -148,18 +273,21 @@ const QString& OrvColumnFilterProxyModelPrivate::filterText(const QAbstractItemM
     return text;
 }
 
-void OrvColumnFilterProxyModelPrivate::forgetRows(int first, int last)
+void OrvColumnFilterProxyModelPrivate::forgetRows(int first, int last, int firstColumn, int lastColumn)
 {
+    first = std::max(first, 0);
     for (auto& entry : filterTexts) {
         std::vector<quint32>& generation = entry.second.generation;
-        for (int row = std::max(first, 0); row <= last && size_t(row) < generation.size(); ++row)
+        for (int row = first; row <= last && size_t(row) < generation.size(); ++row)
             generation[size_t(row)] = 0;
     }
-    for (int row = std::max(first, 0); row <= last; ++row) {
-        if (size_t(row) < rejectedGeneration.size())
-            rejectedGeneration[size_t(row)] = 0;
-        if (size_t(row) < sortKeys.size())
+    for (int row = first; row <= last && size_t(row) < rejectedGeneration.size(); ++row)
+        rejectedGeneration[size_t(row)] = 0;
+    // The same test decides whether the base class re-sorts on the change.
+    if (sortKeyColumn >= firstColumn && sortKeyColumn <= lastColumn) {
+        for (int row = first; row <= last && size_t(row) < sortKeys.size(); ++row)
             sortKeys[size_t(row)] = SortKey::Unknown;
+        forgetRanks();
     }
 }
 
@@ -210,6 +338,104 @@ const QString& OrvColumnFilterProxyModelPrivate::sortText(const QAbstractItemMod
     return text;
 }
 
+bool OrvColumnFilterProxyModelPrivate::buildRanks(const QAbstractItemModel* model, int column)
+{
+    const int rows = model->rowCount();
+    if (rows <= 0)
+        return false;
+    prepareSortKeys(model, column, rows - 1);
+
+    // Numbers by an integer image of their double, texts by their first four
+    // code units (zero-padded, so a shorter prefix still orders first).
+    struct Entry
+    {
+        quint64 order;
+        quint32 row;
+    };
+    std::vector<Entry> numbers, texts;
+    for (int row = 0; row < rows; ++row) {
+        const quint64 key = sortKey(model, row, column);
+        if (key == SortKey::NoText) {
+            ranksRefused = true; // compares by value or not at all: no order to rank by
+            return false;
+        }
+        if (SortKey::isNumber(key)) {
+            double number;
+            std::memcpy(&number, &key, sizeof number);
+            if (std::isnan(number)) {
+                ranksRefused = true; // equal to every number, yet those differ
+                return false;
+            }
+            if (number == 0.0)
+                number = 0.0; // -0 equals 0
+            quint64 bits;
+            std::memcpy(&bits, &number, sizeof bits);
+            numbers.push_back({(bits & 0x8000000000000000ull) ? ~bits : bits | 0x8000000000000000ull, quint32(row)});
+        } else {
+            const QString& text = sortTexts[size_t(row)];
+            quint64 prefix = 0;
+            for (qsizetype i = 0; i < 4; ++i)
+                prefix = (prefix << 16) | (i < text.size() ? text.at(i).unicode() : 0u);
+            texts.push_back({prefix, quint32(row)});
+        }
+    }
+    auto textLess = [this](const Entry& a, const Entry& b) {
+        if (a.order != b.order)
+            return a.order < b.order;
+        return QString::compare(sortTexts[a.row], sortTexts[b.row], Qt::CaseSensitive) < 0;
+    };
+    std::sort(numbers.begin(), numbers.end(), [](const Entry& a, const Entry& b) { return a.order < b.order; });
+    std::sort(texts.begin(), texts.end(), textLess);
+
+    // A number and a text compare as texts. That agrees with ranking the
+    // numbers numerically only when every number's text falls on one side of
+    // every text; otherwise the pairwise answers form no order at all.
+    bool numbersFirst = true;
+    if (!numbers.empty() && !texts.empty()) {
+        const QString* lowest = nullptr;
+        const QString* highest = nullptr;
+        for (const Entry& entry : numbers) {
+            const QString& text = sortText(model, int(entry.row), column, sortKeys[entry.row]);
+            if (!lowest || QString::compare(text, *lowest, Qt::CaseSensitive) < 0)
+                lowest = &text;
+            if (!highest || QString::compare(text, *highest, Qt::CaseSensitive) > 0)
+                highest = &text;
+        }
+        if (QString::compare(*highest, sortTexts[texts.front().row], Qt::CaseSensitive) < 0) {
+            numbersFirst = true;
+        } else if (QString::compare(sortTexts[texts.back().row], *lowest, Qt::CaseSensitive) < 0) {
+            numbersFirst = false;
+        } else {
+            ranksRefused = true;
+            return false;
+        }
+    }
+
+    ranks.resize(size_t(rows));
+    quint32 rank = 0;
+    auto assign = [&](const std::vector<Entry>& entries, auto&& equal) {
+        for (size_t i = 0; i < entries.size(); ++i) {
+            if (i > 0 && !equal(entries[i - 1], entries[i]))
+                ++rank;
+            ranks[entries[i].row] = rank;
+        }
+        ++rank;
+    };
+    auto sameNumber = [](const Entry& a, const Entry& b) { return a.order == b.order; };
+    auto sameText = [&](const Entry& a, const Entry& b) { return !textLess(a, b); };
+    if (numbersFirst) {
+        assign(numbers, sameNumber);
+        assign(texts, sameText);
+    } else {
+        assign(texts, sameText);
+        assign(numbers, sameNumber);
+    }
+    rankColumn = column;
+    acceptedRanksValid = false;
+    rankComparisons = 0;
+    return true;
+}
+
 OrvColumnFilterProxyModel::OrvColumnFilterProxyModel(QObject* parent)
     : QSortFilterProxyModel(parent)
     , d(std::make_unique<OrvColumnFilterProxyModelPrivate>())
@@ -233,6 +459,9 @@ void OrvColumnFilterProxyModel::setSourceModel(QAbstractItemModel* model)
     for (const QMetaObject::Connection& connection : d->sourceConnections)
         disconnect(connection);
     d->sourceConnections.clear();
+    d->model = model;
+    d->ranks.clear();
+    d->acceptedBits.clear();
     d->forgetRejected();
     d->forgetSortKeys();
     d->forgetTexts();
@@ -249,6 +478,15 @@ void OrvColumnFilterProxyModel::setSourceModel(QAbstractItemModel* model)
             d->forgetRejected();
             d->forgetSortKeys();
             d->forgetTexts();
+            // A column whose filter was cleared keeps its texts for the next
+            // filter typed into it, but only while they are worth re-using.
+            for (auto it = d->filterTexts.begin(); it != d->filterTexts.end();) {
+                const auto filter = m_columnStringFilters.constFind(it->first);
+                if (filter == m_columnStringFilters.constEnd() || !filter->isValid())
+                    it = d->filterTexts.erase(it);
+                else
+                    ++it;
+            }
         };
         auto forgetTopLevel = [forgetAll](const QModelIndex& parent) {
             if (!parent.isValid())
@@ -263,8 +501,13 @@ void OrvColumnFilterProxyModel::setSourceModel(QAbstractItemModel* model)
                                 if (!roles.isEmpty() && !roles.contains(Qt::DisplayRole)
                                     && !roles.contains(DataFilterRole))
                                     return;
-                                d->forgetRows(topLeft.row(), bottomRight.row());
+                                d->forgetRows(topLeft.row(), bottomRight.row(), topLeft.column(),
+                                              bottomRight.column());
                             }));
+        c.push_back(connect(model, &QObject::destroyed, this, [this]() {
+            d->model = nullptr;
+            d->forgetSortKeys();
+        }));
         c.push_back(connect(model, &QAbstractItemModel::rowsInserted, this, forgetTopLevel));
         c.push_back(connect(model, &QAbstractItemModel::rowsRemoved, this, forgetTopLevel));
         c.push_back(connect(model, &QAbstractItemModel::columnsInserted, this, forgetTopLevel));
@@ -279,13 +522,21 @@ void OrvColumnFilterProxyModel::setSourceModel(QAbstractItemModel* model)
 
 bool OrvColumnFilterProxyModel::lessThan(const QModelIndex& left, const QModelIndex& right) const
 {
-    const QAbstractItemModel* model = sourceModel();
+    const QAbstractItemModel* model = d->model;
     const int column = left.column();
     if (model && left.model() == model && right.model() == model && right.column() == column
         && !left.parent().isValid() && !right.parent().isValid()) {
         const int leftRow = left.row();
         const int rightRow = right.row();
+        const std::vector<quint32>& ranks = d->ranks;
+        if (column == d->rankColumn && size_t(leftRow) < ranks.size() && size_t(rightRow) < ranks.size())
+            return d->rankLess(leftRow, rightRow);
         d->prepareSortKeys(model, column, std::max(leftRow, rightRow));
+        // Ranking every row costs about as much as a few comparisons per row.
+        if (!d->ranksRefused && ++d->keyComparisons > 2 * quint64(d->sortKeys.size())
+            && d->buildRanks(model, column) && size_t(std::max(leftRow, rightRow)) < ranks.size()) {
+            return d->rankLess(leftRow, rightRow);
+        }
         const quint64 a = d->sortKey(model, leftRow, column);
         const quint64 b = d->sortKey(model, rightRow, column);
         if (SortKey::isNumber(a) && SortKey::isNumber(b)) {
@@ -398,16 +649,12 @@ void OrvColumnFilterProxyModel::filtersChanged(bool narrowed)
             step.kind = Step::Expression;
             step.expression = *it;
             step.expression.optimize();
+            // Rows without a text every match contains need no expression run.
+            step.text = ColumnFilter::requiredLiteral(it->pattern());
+            if (!step.text.isEmpty())
+                step.matcher = QStringMatcher(step.text, Qt::CaseInsensitive);
         }
         steps.push_back(std::move(step));
-    }
-    // Texts of columns that lost their string filter are no longer needed.
-    for (auto it = d->filterTexts.begin(); it != d->filterTexts.end();) {
-        const auto filter = m_columnStringFilters.constFind(it->first);
-        if (filter == m_columnStringFilters.constEnd() || !filter->isValid())
-            it = d->filterTexts.erase(it);
-        else
-            ++it;
     }
     std::stable_sort(steps.begin(), steps.end(),
                      [](const Step& a, const Step& b) { return a.kind < b.kind; });
@@ -428,39 +675,63 @@ void OrvColumnFilterProxyModel::filtersChanged(bool narrowed)
 
 bool OrvColumnFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
-    using Step = OrvColumnFilterProxyModelPrivate::Step;
-    const QAbstractItemModel* model = sourceModel();
-    if (d->steps.empty() || !model)
+    const QAbstractItemModel* model = d->model;
+    if (!model)
+        return true;
+    if (sourceParent.isValid())
+        return d->accepts(model, sourceRow, sourceParent);
+    const bool accepted = d->accepts(model, sourceRow, sourceParent);
+    d->noteAccepted(sourceRow, accepted);
+    return accepted;
+}
+
+bool OrvColumnFilterProxyModelPrivate::accepts(const QAbstractItemModel* model, int sourceRow,
+                                               const QModelIndex& sourceParent)
+{
+    if (steps.empty())
         return true;
     const bool topLevel = !sourceParent.isValid();
-    if (topLevel && d->isKnownRejected(sourceRow))
+#if defined(__GNUC__)
+    // Rows are mostly judged in order, and each cached text lives somewhere
+    // else on the heap: ask for a later row's text now, so that it has
+    // arrived by the time that row is judged.
+    if (topLevel) {
+        const size_t ahead = size_t(sourceRow) + 16;
+        for (const Step& step : steps) {
+            if (step.texts && ahead < step.texts->texts.size())
+                __builtin_prefetch(step.texts->texts[ahead].constData());
+        }
+    }
+#endif
+    if (topLevel && isKnownRejected(sourceRow))
         return false;
 
-    for (const Step& step : d->steps) {
+    for (const Step& step : steps) {
         auto cell = [&]() { return model->index(sourceRow, step.column, sourceParent); };
         bool accepted = false;
         switch (step.kind) {
         case Step::DataText:
-            accepted = model->data(cell(), DataFilterRole).toString() == step.text;
+            accepted = model->data(cell(), OrvColumnFilterProxyModel::DataFilterRole).toString() == step.text;
             break;
         case Step::DataValue:
-            accepted = QVariant(model->data(cell(), DataFilterRole).toString()) == step.value;
+            accepted = QVariant(model->data(cell(), OrvColumnFilterProxyModel::DataFilterRole).toString()) == step.value;
             break;
         case Step::Literal:
         case Step::Expression: {
             QString uncached;
-            const QString& text = topLevel ? d->filterText(model, *step.texts, sourceRow, step.column)
+            const QString& text = topLevel ? filterText(model, *step.texts, sourceRow, step.column)
                                            : (uncached = model->data(cell(), Qt::DisplayRole).toString());
             if (step.kind == Step::Literal)
                 accepted = step.matcher.indexIn(text) >= 0 && ColumnFilter::isWellFormedUtf16(text);
             else
-                accepted = step.expression.match(text).hasMatch();
+                accepted = (step.text.isEmpty() || step.matcher.indexIn(text) >= 0)
+                           && step.expression.match(text).hasMatch();
             break;
         }
         }
         if (!accepted) {
             if (topLevel)
-                d->markRejected(model, sourceRow);
+                markRejected(model, sourceRow);
             return false;
         }
     }

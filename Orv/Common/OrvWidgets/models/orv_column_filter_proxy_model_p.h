@@ -10,6 +10,7 @@
 #include <vector>
 
 class QAbstractItemModel;
+class QModelIndex;
 
 namespace OrvWidgets {
 
@@ -19,6 +20,12 @@ namespace ColumnFilter {
 // substring search: only characters that are no expression syntax and whose
 // caseless equivalents agree between the expression engine and QString folding.
 bool isLiteralPattern(const QString& pattern);
+
+// The longest run of literal characters every match of a case-insensitive
+// expression contains; empty when there is none or the pattern is beyond the
+// constructs this recognises. A caseless search for it finds every row the
+// expression can match (the characters are those of isLiteralPattern).
+QString requiredLiteral(const QString& pattern);
 
 // The expression engine rejects subjects with unpaired surrogates (no match).
 bool isWellFormedUtf16(QStringView text);
@@ -72,6 +79,7 @@ public:
         ColumnTexts* texts = nullptr;
     };
     std::vector<Step> steps;
+    bool accepts(const QAbstractItemModel* model, int sourceRow, const QModelIndex& sourceParent);
 
     // Top-level source rows known to fail the filters: valid while the source
     // data is unchanged and every filter change since only narrowed the set.
@@ -87,12 +95,76 @@ public:
     int sortKeyColumn = -1;
     quint32 sortGeneration = 1;
 
+    // Dense ranks of the top-level rows in the order of one column, equal
+    // values sharing a rank, so that a comparison is one integer comparison.
+    // Only made when the order rule is a consistent order over the whole
+    // column (otherwise the pairwise answers could not be reproduced), and
+    // only once the comparisons on unchanged data have paid for making it.
+    std::vector<quint32> ranks;
+    int rankColumn = -1;        // -1: no valid ranks
+    bool ranksRefused = false;  // this column's values cannot be ranked
+    quint64 keyComparisons = 0; // made without ranks since the data changed
+
+    // Top-level rows the filters accepted when last asked, one bit each. A
+    // sort compares accepted rows only; their ranks copied side by side take
+    // a fraction of the memory of all ranks, so the comparisons stay in cache
+    // (a rank read from all rows' ranks is a cache miss on large tables). The
+    // copy is valid until a bit or the ranks change.
+    std::vector<quint64> acceptedBits;
+    std::vector<quint32> acceptedBefore; // accepted rows before each word of bits
+    std::vector<quint32> acceptedRanks;
+    bool acceptedRanksValid = false;
+    quint64 rankComparisons = 0; // since the accepted rows or the ranks changed
+    void noteAccepted(int row, bool accepted)
+    {
+        const size_t word = size_t(row) >> 6;
+        const quint64 bit = quint64(1) << (row & 63);
+        if (word >= acceptedBits.size()) {
+            if (!accepted)
+                return;
+            acceptedBits.resize(word + 1, 0);
+        }
+        if (bool(acceptedBits[word] & bit) != accepted) {
+            acceptedBits[word] ^= bit;
+            acceptedRanksValid = false;
+            rankComparisons = 0;
+        }
+    }
+    void copyAcceptedRanks();
+    // Inline: without a CPU-specific build the intrinsic is a library call.
+    static quint32 bitCount(quint64 x)
+    {
+        x -= (x >> 1) & 0x5555555555555555ull;
+        x = (x & 0x3333333333333333ull) + ((x >> 2) & 0x3333333333333333ull);
+        x = (x + (x >> 4)) & 0x0F0F0F0F0F0F0F0Full;
+        return quint32((x * 0x0101010101010101ull) >> 56);
+    }
+    bool rankLess(int left, int right)
+    {
+        if (acceptedRanksValid) {
+            const quint64 leftWord = acceptedBits[size_t(left) >> 6];
+            const quint64 rightWord = acceptedBits[size_t(right) >> 6];
+            const quint64 leftBit = quint64(1) << (left & 63);
+            const quint64 rightBit = quint64(1) << (right & 63);
+            if ((leftWord & leftBit) && (rightWord & rightBit)) {
+                return acceptedRanks[acceptedBefore[size_t(left) >> 6] + bitCount(leftWord & (leftBit - 1))]
+                       < acceptedRanks[acceptedBefore[size_t(right) >> 6] + bitCount(rightWord & (rightBit - 1))];
+            }
+        } else if (++rankComparisons > acceptedBits.size()) {
+            copyAcceptedRanks(); // costs about one comparison per word of bits
+        }
+        return ranks[size_t(left)] < ranks[size_t(right)];
+    }
+
+    // The source model, read on every comparison (sourceModel() is a property read).
+    const QAbstractItemModel* model = nullptr;
     std::vector<QMetaObject::Connection> sourceConnections;
 
     void forgetRejected();
     void forgetSortKeys();
     void forgetTexts();
-    void forgetRows(int first, int last);
+    void forgetRanks();
+    void forgetRows(int first, int last, int firstColumn, int lastColumn);
     bool isKnownRejected(int row) const
     {
         return row >= 0 && size_t(row) < rejectedGeneration.size()
@@ -102,6 +174,7 @@ public:
     void prepareSortKeys(const QAbstractItemModel* model, int column, int maxRow);
     quint64 sortKey(const QAbstractItemModel* model, int row, int column);
     const QString& sortText(const QAbstractItemModel* model, int row, int column, quint64 key);
+    bool buildRanks(const QAbstractItemModel* model, int column);
 };
 
 } // namespace OrvWidgets
