@@ -137,7 +137,7 @@ DemoController::DemoController(QObject* parent)
     connect(m_shell, &OrvBaseLayoutWidget::signalRetranslateActions, this, &DemoController::retranslateMenu);
     connect(m_shell, &OrvBaseLayoutWidget::signalClose, this, &DemoController::closeRequested);
     connect(m_shell, &OrvBaseLayoutWidget::signalLogout, this, [this] {
-        notify(tr("Logout"), tr("Operators log out at the session manager; this demonstration stays open."),
+        notify(tr("Logout"), tr("Log out at the session manager."),
                OrvNotificationBox::Info);
     });
 
@@ -287,11 +287,11 @@ void DemoController::runAction(const QString& identifier)
                               && m_exercise->plannedEnd() > m_exercise->plannedStart();
         notify(tr("Plan check"),
                complete ? tr("The plan of <b>%1</b> is complete.").arg(m_exercise->name().toHtmlEscaped())
-                        : tr("The plan is incomplete. <a href='orv://OpenPage/plan.setup'>Open the setup</a>"),
+                        : tr("The plan is incomplete. <a href='orv://OpenPage/plan.setup'>Open it</a>"),
                complete ? OrvNotificationBox::Success : OrvNotificationBox::Warning);
     } else if (identifier == QLatin1String("review.report")) {
         notify(tr("Exercise report"),
-               tr("%1: %2, %3 events logged. <a href='orv://OpenPage/run.log'>Show the event log</a>")
+               tr("%1: %2, %3 events. <a href='orv://OpenPage/run.log'>Event log</a>")
                    .arg(m_exercise->name().toHtmlEscaped(), Exercise::stateText(m_exercise->state()))
                    .arg(m_eventLog->rowCount()),
                OrvNotificationBox::Info);
@@ -304,7 +304,7 @@ void DemoController::serverRequest(QObject* context, const std::function<void()>
     QTimer::singleShot(m_serverMs, context, [this, done] {
         done();
         m_eventLog->add(EventLogModel::Server, tr("Exercise server: all %1 participants reporting").arg(kParticipants));
-        notify(tr("Exercise server"), tr("The server answered: all participants are reporting."),
+        notify(tr("Exercise server"), tr("All participants are reporting."),
                OrvNotificationBox::Success);
     });
 }
@@ -324,6 +324,7 @@ void DemoController::updateExerciseData()
     m_shell->setExerciseTime(m_exercise->exerciseTime());
 }
 
+// The notification box has a fixed size and does not wrap: its texts stay short.
 void DemoController::notify(const QString& title, const QString& text, OrvNotificationBox::MessageType type,
                             const QString& identifier)
 {
@@ -334,15 +335,15 @@ void DemoController::notify(const QString& title, const QString& text, OrvNotifi
 void DemoController::showTestNotifications()
 {
     notify(tr("Information"),
-           tr("Participant 19 has joined. <a href='orv://ParticipantInfo/19'>Show participant 19</a>"),
+           tr("Participant 19 has joined. <a href='orv://ParticipantInfo/19'>Show</a>"),
            OrvNotificationBox::Info, QStringLiteral("test-info"));
-    notify(tr("Success"), tr("The exercise plan was distributed to all work stations."), OrvNotificationBox::Success,
+    notify(tr("Success"), tr("Plan sent to all work stations."), OrvNotificationBox::Success,
            QStringLiteral("test-success"));
     notify(tr("Warning"),
-           tr("Participant 42 reports low supplies. <a href='orv://ParticipantInfo/42'>Show participant 42</a>"),
+           tr("Participant 42: low supplies. <a href='orv://ParticipantInfo/42'>Show</a>"),
            OrvNotificationBox::Warning, QStringLiteral("test-warning"));
     notify(tr("Error"),
-           tr("Work station WS-03 does not answer. <a href='orv://OpenPage/run.log'>Open the event log</a>"),
+           tr("WS-03 does not answer. <a href='orv://OpenPage/run.log'>Event log</a>"),
            OrvNotificationBox::Error, QStringLiteral("test-error"));
 }
 
@@ -374,7 +375,7 @@ void DemoController::simulateSecondOperator()
     }
     m_eventLog->add(EventLogModel::Operator, tr("Operator %1 is editing the exercise plan").arg(m_otherOperator));
     notify(tr("Exercise plan locked"),
-           tr("Operator %1 is editing the exercise plan; it is read-only for you until they finish.")
+           tr("%1 is editing the plan; read-only for now.")
                .arg(m_otherOperator),
            OrvNotificationBox::Warning, QStringLiteral("plan-lock"));
     m_releaseTimer->start();
@@ -393,7 +394,7 @@ void DemoController::releaseSecondOperator()
             page->slotUnlock();
     }
     m_eventLog->add(EventLogModel::Operator, tr("Operator %1 released the exercise plan").arg(holder));
-    notify(tr("Exercise plan released"), tr("Operator %1 has finished; you can edit the plan again.").arg(holder),
+    notify(tr("Exercise plan released"), tr("%1 is done; you can edit the plan.").arg(holder),
            OrvNotificationBox::Info, QStringLiteral("plan-lock"));
 }
 

@@ -100,10 +100,6 @@
         <translation>Abmelden</translation>
     </message>
     <message>
-        <source>Operators log out at the session manager; this demonstration stays open.</source>
-        <translation>Bediener melden sich am Sitzungsmanager ab; diese Vorführung bleibt geöffnet.</translation>
-    </message>
-    <message>
         <source>Session started, operator Alpha at WS-01</source>
         <translation>Sitzung gestartet, Bediener Alpha an WS-01</translation>
     </message>
@@ -128,14 +124,6 @@
         <translation>Der Plan von &lt;b&gt;%1&lt;/b&gt; ist vollständig.</translation>
     </message>
     <message>
-        <source>The plan is incomplete. &lt;a href='orv://OpenPage/plan.setup'&gt;Open the setup&lt;/a&gt;</source>
-        <translation>Der Plan ist unvollständig. &lt;a href='orv://OpenPage/plan.setup'&gt;Planung öffnen&lt;/a&gt;</translation>
-    </message>
-    <message>
-        <source>%1: %2, %3 events logged. &lt;a href='orv://OpenPage/run.log'&gt;Show the event log&lt;/a&gt;</source>
-        <translation>%1: %2, %3 Ereignisse protokolliert. &lt;a href='orv://OpenPage/run.log'&gt;Ereignisprotokoll anzeigen&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Status requested from the exercise server</source>
         <translation>Status beim Übungsserver angefragt</translation>
     </message>
@@ -148,10 +136,6 @@
         <translation>Übungsserver</translation>
     </message>
     <message>
-        <source>The server answered: all participants are reporting.</source>
-        <translation>Der Server hat geantwortet: Alle Teilnehmer melden sich.</translation>
-    </message>
-    <message>
         <source>Partition %1</source>
         <translation>Partition %1</translation>
     </message>
@@ -160,32 +144,16 @@
         <translation>Information</translation>
     </message>
     <message>
-        <source>Participant 19 has joined. &lt;a href='orv://ParticipantInfo/19'&gt;Show participant 19&lt;/a&gt;</source>
-        <translation>Teilnehmer 19 ist beigetreten. &lt;a href='orv://ParticipantInfo/19'&gt;Teilnehmer 19 anzeigen&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Success</source>
         <translation>Erfolg</translation>
-    </message>
-    <message>
-        <source>The exercise plan was distributed to all work stations.</source>
-        <translation>Der Übungsplan wurde an alle Arbeitsplätze verteilt.</translation>
     </message>
     <message>
         <source>Warning</source>
         <translation>Warnung</translation>
     </message>
     <message>
-        <source>Participant 42 reports low supplies. &lt;a href='orv://ParticipantInfo/42'&gt;Show participant 42&lt;/a&gt;</source>
-        <translation>Teilnehmer 42 meldet knappe Versorgung. &lt;a href='orv://ParticipantInfo/42'&gt;Teilnehmer 42 anzeigen&lt;/a&gt;</translation>
-    </message>
-    <message>
         <source>Error</source>
         <translation>Fehler</translation>
-    </message>
-    <message>
-        <source>Work station WS-03 does not answer. &lt;a href='orv://OpenPage/run.log'&gt;Open the event log&lt;/a&gt;</source>
-        <translation>Arbeitsplatz WS-03 antwortet nicht. &lt;a href='orv://OpenPage/run.log'&gt;Ereignisprotokoll öffnen&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Operator %1 is editing the exercise plan</source>
@@ -196,10 +164,6 @@
         <translation>Übungsplan gesperrt</translation>
     </message>
     <message>
-        <source>Operator %1 is editing the exercise plan; it is read-only for you until they finish.</source>
-        <translation>Bediener %1 bearbeitet den Übungsplan; für Sie ist er schreibgeschützt, bis die Bearbeitung endet.</translation>
-    </message>
-    <message>
         <source>Operator %1 released the exercise plan</source>
         <translation>Bediener %1 hat den Übungsplan freigegeben</translation>
     </message>
@@ -208,16 +172,52 @@
         <translation>Übungsplan freigegeben</translation>
     </message>
     <message>
-        <source>Operator %1 has finished; you can edit the plan again.</source>
-        <translation>Bediener %1 ist fertig; Sie können den Plan wieder bearbeiten.</translation>
-    </message>
-    <message>
         <source>Notification acknowledged: %1</source>
         <translation>Meldung bestätigt: %1</translation>
     </message>
     <message>
         <source>Loading the exercise...</source>
         <translation>Übung wird geladen...</translation>
+    </message>
+    <message>
+        <source>Log out at the session manager.</source>
+        <translation>Abmelden am Sitzungsmanager.</translation>
+    </message>
+    <message>
+        <source>The plan is incomplete. &lt;a href='orv://OpenPage/plan.setup'&gt;Open it&lt;/a&gt;</source>
+        <translation>Der Plan ist unvollständig. &lt;a href='orv://OpenPage/plan.setup'&gt;Öffnen&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1: %2, %3 events. &lt;a href='orv://OpenPage/run.log'&gt;Event log&lt;/a&gt;</source>
+        <translation>%1: %2, %3 Ereignisse. &lt;a href='orv://OpenPage/run.log'&gt;Protokoll&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>All participants are reporting.</source>
+        <translation>Alle Teilnehmer melden sich.</translation>
+    </message>
+    <message>
+        <source>Participant 19 has joined. &lt;a href='orv://ParticipantInfo/19'&gt;Show&lt;/a&gt;</source>
+        <translation>Teilnehmer 19 ist beigetreten. &lt;a href='orv://ParticipantInfo/19'&gt;Anzeigen&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>Plan sent to all work stations.</source>
+        <translation>Plan an alle Arbeitsplätze verteilt.</translation>
+    </message>
+    <message>
+        <source>Participant 42: low supplies. &lt;a href='orv://ParticipantInfo/42'&gt;Show&lt;/a&gt;</source>
+        <translation>Teilnehmer 42: Versorgung knapp. &lt;a href='orv://ParticipantInfo/42'&gt;Anzeigen&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>WS-03 does not answer. &lt;a href='orv://OpenPage/run.log'&gt;Event log&lt;/a&gt;</source>
+        <translation>WS-03 antwortet nicht. &lt;a href='orv://OpenPage/run.log'&gt;Protokoll&lt;/a&gt;</translation>
+    </message>
+    <message>
+        <source>%1 is editing the plan; read-only for now.</source>
+        <translation>%1 bearbeitet den Plan; vorerst nur lesbar.</translation>
+    </message>
+    <message>
+        <source>%1 is done; you can edit the plan.</source>
+        <translation>%1 ist fertig; Sie können wieder planen.</translation>
     </message>
 </context>
 <context>
