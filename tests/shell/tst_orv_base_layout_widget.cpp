@@ -18,34 +18,37 @@ namespace {
 class Page : public OrvDialog
 {
 public:
-    explicit Page(const QString& title = QStringLiteral("Page"))
-        : OrvDialog(nullptr, OkApplyCancel, true)
-        , m_text(title)
-    {
-        new QLineEdit(this);
-    }
-    void retranslate() override { translate(m_text); }
-    QString m_text;
+    Page() : OrvDialog(nullptr, OkApplyCancel, true) { new QLineEdit(this); }
+    void retranslate() override { translate(QStringLiteral("Page")); }
 };
 
-PluginData entry(const QString& id, const QString& group, ExercisePart part, int* created = nullptr,
-                 LayoutArea area = eDialogTab)
+// A shell whose menu entries count the pages they create.
+class Shell : public OrvBaseLayoutWidget
 {
-    PluginData data(id + " text", group, id,
-                    [created, id](QWidget*) -> OrvDialog* {
-                        if (created)
-                            ++*created;
-                        return new Page(id);
-                    },
-                    0, part);
-    data.layoutArea = area;
-    return data;
-}
+public:
+    explicit Shell(bool partButtons = true) : OrvBaseLayoutWidget(nullptr, partButtons) {}
 
-OrvToolBox* toolBox(OrvBaseLayoutWidget& shell, const char* name)
-{
-    return shell.findChild<OrvToolBox*>(QLatin1String(name));
-}
+    PluginData entry(const QString& id, const QString& group = "G", ExercisePart part = eSpecial,
+                     LayoutArea area = eDialogTab)
+    {
+        PluginData data(id + " text", group, id,
+                        [this](QWidget*) -> OrvDialog* {
+                            ++created;
+                            return new Page;
+                        },
+                        0, part);
+        data.layoutArea = area;
+        return data;
+    }
+    OrvDragIcon* add(const QString& id, const QString& group = "G", ExercisePart part = eSpecial,
+                     LayoutArea area = eDialogTab)
+    {
+        return addMenuAction(entry(id, group, part, area), false);
+    }
+    OrvToolBox* toolBox(const char* name) { return findChild<OrvToolBox*>(QLatin1String(name)); }
+
+    int created = 0;
+};
 
 } // namespace
 
@@ -75,9 +78,6 @@ private Q_SLOTS:
         QCOMPARE(shell.minimumSize(), QSize(1280, 900));
         for (const char* name : {"masterSplitter", "mainSplitter", "rightSplitter"})
             QCOMPARE(shell.findChild<QSplitter*>(name)->handleWidth(), 10);
-        QVERIFY(shell.findChild<QPushButton*>("MinMaxTabButton")); // in the lower main pane
-        QCOMPARE(shell.getMenu()->objectName(), QStringLiteral("naviWidget"));
-        QCOMPARE(shell.getToolbar()->objectName(), QStringLiteral("toolBar"));
     }
 
     void pagesOpenInTheirAreaAndComeToFront()
@@ -106,6 +106,12 @@ private Q_SLOTS:
         QCOMPARE(shell.getTabFromLayoutArea(eMainTab)->count(), 3);
         QVERIFY(shell.focusTab("Planning", "setup", eMainTab));
         QVERIFY(shell.isDialogFocused(page));
+
+        QPointer<Page> first = page;
+        auto* second = new Page;
+        QVERIFY(shell.addOrReplaceWidget(second, "Planning", "setup", eMainTab, true, true));
+        QCOMPARE(shell.getWidget("Planning", "setup", eMainTab), second);
+        QTRY_VERIFY(!first);
     }
 
     void badInput()
@@ -119,17 +125,6 @@ private Q_SLOTS:
         delete page;
         QTest::ignoreMessage(QtWarningMsg, "OrvBaseLayoutWidget::focusTab: tab, by enum type, not found!");
         QVERIFY(!shell.focusTab("G", "I", LayoutArea(9)));
-    }
-
-    void addOrReplace()
-    {
-        OrvBaseLayoutWidget shell(nullptr, true);
-        QPointer<Page> first = new Page("First");
-        QVERIFY(shell.addWidget(first, "G", "I", eDialogTab, true, true));
-        auto* second = new Page("Second");
-        QVERIFY(shell.addOrReplaceWidget(second, "G", "I", eDialogTab, true, true));
-        QCOMPARE(shell.getWidget("G", "I", eDialogTab), second);
-        QTRY_VERIFY(!first);
     }
 
     void layoutVisibility()
@@ -159,62 +154,51 @@ private Q_SLOTS:
         QVERIFY(!shell.irreplaceableReset());
     }
 
-    void menuEntriesOpenPagesOnce()
+    void menuEntriesOpenPagesOnceAndDrivePartButtons()
     {
-        OrvBaseLayoutWidget shell(nullptr, true);
-        shell.show();
-        int created = 0;
-        OrvDragIcon* setup = shell.addMenuAction(entry("setup", "Exercise", ePlanning, &created), false);
-        OrvDragIcon* log = shell.addMenuAction(entry("log", "Monitoring", eExecution, &created, eMainTab), false);
-        QVERIFY(setup && log);
-        QCOMPARE(setup->objectName(), QStringLiteral("setup"));
-        QCOMPARE(toolBox(shell, "naviActionsPlanning")->count(), 1);
-        QCOMPARE(toolBox(shell, "naviActionsExecution")->count(), 1);
-        QCOMPARE(toolBox(shell, "naviActionsPlanning")->itemText(0), QStringLiteral("Exercise"));
-
-        Q_EMIT setup->clicked();
-        QCOMPARE(created, 1);
-        QVERIFY(shell.getWidget("Exercise", "setup", eDialogTab));
-        Q_EMIT setup->clicked(); // open already: focused, not created again
-        QCOMPARE(created, 1);
-        shell.executeAction("log");
-        QCOMPARE(created, 2);
-        QVERIFY(shell.getWidget("Monitoring", "log", eMainTab));
-        shell.executeAction("nothing"); // no entry: nothing happens
-    }
-
-    void partButtonsFollowTheEntries()
-    {
-        OrvBaseLayoutWidget shell(nullptr, true);
+        Shell shell;
         shell.show();
         auto* planning = shell.findChild<QPushButton*>("pbPlanning");
         auto* execution = shell.findChild<QPushButton*>("pbExecution");
-        shell.addMenuAction(entry("a", "G1", ePlanning), false);
+        OrvDragIcon* setup = shell.add("setup", "Exercise", ePlanning);
         QVERIFY(planning->isHidden()); // one part only: no part buttons
-        OrvDragIcon* b = shell.addMenuAction(entry("b", "G2", eExecution), false);
+        OrvDragIcon* log = shell.add("log", "Monitoring", eExecution, eMainTab);
+        QVERIFY(setup && log);
         QVERIFY(!planning->isHidden());
         QVERIFY(!execution->isHidden());
         QVERIFY(execution->isChecked());
-        QVERIFY(shell.removeMenuAction(b));
-        QCOMPARE(toolBox(shell, "naviActionsExecution")->count(), 0); // the emptied group is gone
-        QVERIFY(planning->isHidden());
-        QVERIFY(!shell.removeMenuAction(QStringLiteral("b")));
-        QVERIFY(shell.removeMenuAction(entry("a", "G1", ePlanning)));
-        QVERIFY(shell.mapButtons().isEmpty());
-    }
+        QCOMPARE(setup->objectName(), QStringLiteral("setup"));
+        QCOMPARE(shell.toolBox("naviActionsPlanning")->count(), 1);
+        QCOMPARE(shell.toolBox("naviActionsExecution")->count(), 1);
+        QCOMPARE(shell.toolBox("naviActionsPlanning")->itemText(0), QStringLiteral("Exercise"));
 
-    void withoutPartButtonsEverythingIsSpecial()
-    {
-        OrvBaseLayoutWidget shell(nullptr, false);
-        shell.addMenuAction(entry("a", "G1", ePlanning), false);
-        QCOMPARE(toolBox(shell, "naviActionsSpecial")->count(), 1);
-        QCOMPARE(toolBox(shell, "naviActionsPlanning")->count(), 0);
+        Q_EMIT setup->clicked();
+        QCOMPARE(shell.created, 1);
+        QVERIFY(shell.getWidget("Exercise", "setup", eDialogTab));
+        Q_EMIT setup->clicked(); // open already: focused, not created again
+        QCOMPARE(shell.created, 1);
+        shell.executeAction("log");
+        QCOMPARE(shell.created, 2);
+        QVERIFY(shell.getWidget("Monitoring", "log", eMainTab));
+        shell.executeAction("nothing"); // no entry: nothing happens
+
+        QVERIFY(shell.removeMenuAction(log));
+        QCOMPARE(shell.toolBox("naviActionsExecution")->count(), 0); // the emptied group is gone
+        QVERIFY(planning->isHidden());
+        QVERIFY(!shell.removeMenuAction(QStringLiteral("log")));
+        QVERIFY(shell.removeMenuAction(shell.entry("setup", "Exercise", ePlanning)));
+        QVERIFY(shell.mapButtons().isEmpty());
+
+        Shell withoutParts(false); // everything goes to the special group
+        withoutParts.add("a", "G1", ePlanning);
+        QCOMPARE(withoutParts.toolBox("naviActionsSpecial")->count(), 1);
+        QCOMPARE(withoutParts.toolBox("naviActionsPlanning")->count(), 0);
     }
 
     void rightsUpdatesAndSeparators()
     {
-        OrvBaseLayoutWidget shell(nullptr, true);
-        PluginData secret = entry("secret", "G", eSpecial);
+        Shell shell;
+        PluginData secret = shell.entry("secret");
         secret.operatorRight = 4;
         QVERIFY(!shell.addMenuAction(secret, false));
         OrvSessionData::OrvSessionData::getInstance()->setOperatorRights(4);
@@ -227,12 +211,12 @@ private Q_SLOTS:
         OrvDragIcon* button = shell.mapButtons().firstKey();
         QCOMPARE(button->text(), QStringLiteral("Renamed"));
         QCOMPARE(button->context(), QStringLiteral("Other"));
-        QCOMPARE(toolBox(shell, "naviActionsSpecial")->itemText(0), QStringLiteral("Other"));
+        QCOMPARE(shell.toolBox("naviActionsSpecial")->itemText(0), QStringLiteral("Other"));
 
         QVERIFY(!shell.addMenuAction(PluginData::createGroup("G", "sep"), false)); // separator: no button
-        QVERIFY(toolBox(shell, "naviActionsSpecial")->widget(0)->findChild<QFrame*>());
+        QVERIFY(shell.toolBox("naviActionsSpecial")->widget(0)->findChild<QFrame*>());
         QVERIFY(!shell.addMenuAction(PluginData::createGroup("Unknown", "sep2"), false));
-        QCOMPARE(toolBox(shell, "naviActionsSpecial")->count(), 1); // no group made for a separator
+        QCOMPARE(shell.toolBox("naviActionsSpecial")->count(), 1); // no group made for a separator
     }
 
     void developerMessagesForBrokenEntries_data()
@@ -248,10 +232,10 @@ private Q_SLOTS:
         QFETCH(QString, id);
         QFETCH(QString, group);
         QFETCH(QString, start);
-        OrvBaseLayoutWidget shell(nullptr, true);
+        Shell shell;
         OrvTest::DialogAnswerer answerer;
         answerer.click("Ok");
-        QVERIFY(!shell.addMenuAction(entry(id, group, eSpecial), false));
+        QVERIFY(!shell.add(id, group));
         QCOMPARE(answerer.answered(), 1);
         QVERIFY2(answerer.texts().first().startsWith(start), qPrintable(answerer.texts().first()));
         QVERIFY(answerer.texts().first().endsWith("um welchen Menu Entry es sich handelt =)"));
@@ -275,14 +259,13 @@ private Q_SLOTS:
         QFETCH(bool, execute);
         QFETCH(int, created);
         QFETCH(bool, listed);
-        OrvBaseLayoutWidget shell(nullptr, true);
-        int count = 0;
+        Shell shell;
         int direct = 0;
-        PluginData data = entry("instant", "G", eSpecial, &count);
+        PluginData data = shell.entry("instant");
         data.directFunc = [&direct](const PluginData&) { ++direct; };
         data.createInstant = CreateInstantType(instant);
         shell.addMenuAction(data, execute);
-        QCOMPARE(count, created);
+        QCOMPARE(shell.created, created);
         QCOMPARE(direct, created); // an instant entry runs both functions
         QCOMPARE(!shell.mapButtons().isEmpty(), listed);
     }
@@ -303,11 +286,11 @@ private Q_SLOTS:
 
     void exerciseStateHidesButtons()
     {
-        OrvBaseLayoutWidget shell(nullptr, true);
-        PluginData onlyCreated = entry("c", "G", eSpecial);
+        Shell shell;
+        PluginData onlyCreated = shell.entry("c");
         onlyCreated.exerciseStates = ExerciseState::eCreated;
         OrvDragIcon* c = shell.addMenuAction(onlyCreated, false);
-        OrvDragIcon* all = shell.addMenuAction(entry("all", "G", eSpecial), false);
+        OrvDragIcon* all = shell.add("all");
         ExerciseData data;
         data.exState = ExerciseState::eStarted;
         shell.setExerciseData(data);
@@ -318,49 +301,40 @@ private Q_SLOTS:
         QVERIFY(c->buttonVisible());
     }
 
-    void toolBarAndFunctionKeys()
-    {
-        OrvBaseLayoutWidget shell(nullptr, true);
-        shell.show();
-        int created = 0;
-        shell.addMenuAction(entry("a", "G", eSpecial, &created), false);
-        shell.setToolBarActions({"a", "later"});
-        QCOMPARE(shell.toolBarActions(), QStringList({"a"}));
-        shell.addMenuAction(entry("later", "G", eSpecial, &created), false);
-        QCOMPARE(shell.toolBarActions(), QStringList({"a", "later"}));
-        shell.setFunctionKeys({{Qt::Key_F5, "later"}});
-        QCOMPARE(shell.functionKeys().value(Qt::Key_F5), QStringLiteral("later"));
-        shell.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&shell));
-        QTest::keyClick(&shell, Qt::Key_F5);
-        QCOMPARE(created, 1);
-        QVERIFY(shell.getWidget("G", "later", eDialogTab));
-    }
-
-    void storedToolBarComesBack()
+    // Tool bar entries not added yet wait for their buttons; F-keys open pages; both survive a restart in order.
+    void toolBarAndFunctionKeysAreStored()
     {
         QTemporaryDir dir;
         OrvUtils::OperatorSettings::getInstance()->setFileName(dir.filePath("operator.ini"));
         {
-            OrvBaseLayoutWidget shell(nullptr, true);
-            shell.addMenuAction(entry("a", "G", eSpecial), false);
-            shell.addMenuAction(entry("b", "G", eSpecial), false);
+            Shell shell;
+            shell.show();
+            shell.add("a");
             QCoreApplication::processEvents();
-            shell.setToolBarActions({"b", "a"});
-            shell.setFunctionKeys({{Qt::Key_F7, "a"}});
+            shell.setToolBarActions({"a", "later"});
+            QCOMPARE(shell.toolBarActions(), QStringList({"a"}));
+            shell.add("later");
+            QCOMPARE(shell.toolBarActions(), QStringList({"a", "later"}));
+            shell.setFunctionKeys({{Qt::Key_F5, "later"}});
+            QCOMPARE(shell.functionKeys().value(Qt::Key_F5), QStringLiteral("later"));
+            shell.activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(&shell));
+            QTest::keyClick(&shell, Qt::Key_F5);
+            QCOMPARE(shell.created, 1);
+            QVERIFY(shell.getWidget("G", "later", eDialogTab));
         }
-        OrvBaseLayoutWidget shell(nullptr, true);
-        shell.addMenuAction(entry("a", "G", eSpecial), false);
-        shell.addMenuAction(entry("b", "G", eSpecial), false);
-        QTRY_COMPARE(shell.toolBarActions(), QStringList({"b", "a"}));
-        QCOMPARE(shell.functionKeys().value(Qt::Key_F7), QStringLiteral("a"));
+        Shell shell;
+        shell.add("later");
+        shell.add("a");
+        QTRY_COMPARE(shell.toolBarActions(), QStringList({"a", "later"}));
+        QCOMPARE(shell.functionKeys().value(Qt::Key_F5), QStringLiteral("later"));
     }
 
     void destroyedWithOpenPagesAndAnimation()
     {
-        auto* shell = new OrvBaseLayoutWidget(nullptr, true);
+        auto* shell = new Shell;
         shell->show();
-        shell->addMenuAction(entry("a", "G", eSpecial), false);
+        shell->add("a");
         shell->executeAction("a");
         shell->addWidget(new Page, "G", "b", eDialogTab, true, true);
         shell->onHideAnimated();
