@@ -70,32 +70,41 @@ const QList<DemoController::Entry>& DemoController::entries()
     // Texts are translated when shown; the identifiers never change.
     static const QList<Entry> list{
         {"plan.setup", QT_TRANSLATE_NOOP("DemoController", "Exercise setup"),
-         QT_TRANSLATE_NOOP("DemoController", "Exercise"), ePlanning, kPlanEditable, RightPlan, "setup"},
+         QT_TRANSLATE_NOOP("DemoController", "Exercise"), ePlanning, kPlanEditable, RightPlan, "setup", Kind::Page,
+         eMainTab},
         {"plan.participants", QT_TRANSLATE_NOOP("DemoController", "Participants"),
-         QT_TRANSLATE_NOOP("DemoController", "Exercise"), ePlanning, kAll, RightPlan, "participants"},
-        {"plan.separator", nullptr, QT_TRANSLATE_NOOP("DemoController", "Exercise"), ePlanning, kAll, 0, nullptr},
+         QT_TRANSLATE_NOOP("DemoController", "Exercise"), ePlanning, kAll, RightPlan, "participants", Kind::Page,
+         eMainTab},
+        {"plan.separator", nullptr, QT_TRANSLATE_NOOP("DemoController", "Exercise"), ePlanning, kAll, 0, nullptr,
+         Kind::Separator, eDialogTab},
         {"plan.notes", QT_TRANSLATE_NOOP("DemoController", "Exercise notes"),
-         QT_TRANSLATE_NOOP("DemoController", "Exercise"), ePlanning, kAll, RightPlan, "notes"},
+         QT_TRANSLATE_NOOP("DemoController", "Exercise"), ePlanning, kAll, RightPlan, "notes", Kind::Page, eDialogTab},
         {"plan.check", QT_TRANSLATE_NOOP("DemoController", "Check plan data"),
-         QT_TRANSLATE_NOOP("DemoController", "Data"), ePlanning, kPlanEditable, RightPlan, "check"},
+         QT_TRANSLATE_NOOP("DemoController", "Data"), ePlanning, kPlanEditable, RightPlan, "check", Kind::Action,
+         eDialogTab},
         {"plan.import", QT_TRANSLATE_NOOP("DemoController", "Import order of battle"),
-         QT_TRANSLATE_NOOP("DemoController", "Data"), ePlanning, kPlanEditable, RightAdmin, "import"},
+         QT_TRANSLATE_NOOP("DemoController", "Data"), ePlanning, kPlanEditable, RightAdmin, "import", Kind::Page,
+         eDialogTab},
         {"run.control", QT_TRANSLATE_NOOP("DemoController", "Exercise control"),
-         QT_TRANSLATE_NOOP("DemoController", "Control"), eExecution, kAll, RightRun, "control"},
+         QT_TRANSLATE_NOOP("DemoController", "Control"), eExecution, kAll, RightRun, "control", Kind::InstantPage,
+         eInfoTab},
         {"run.status", QT_TRANSLATE_NOOP("DemoController", "Server status"),
-         QT_TRANSLATE_NOOP("DemoController", "Control"), eExecution, kRunning, RightRun, "status"},
-        {"run.log", QT_TRANSLATE_NOOP("DemoController", "Event log"),
-         QT_TRANSLATE_NOOP("DemoController", "Monitoring"), eExecution, kAfterStart, RightRun, "log"},
+         QT_TRANSLATE_NOOP("DemoController", "Control"), eExecution, kRunning, RightRun, "status", Kind::Action,
+         eDialogTab},
+        {"run.log", QT_TRANSLATE_NOOP("DemoController", "Event log"), QT_TRANSLATE_NOOP("DemoController", "Monitoring"),
+         eExecution, kAfterStart, RightRun, "log", Kind::Page, eDialogTab},
         {"review.report", QT_TRANSLATE_NOOP("DemoController", "Exercise report"),
-         QT_TRANSLATE_NOOP("DemoController", "Review"), eAfterAction, kAll, RightReview, "report"},
+         QT_TRANSLATE_NOOP("DemoController", "Review"), eAfterAction, kAll, RightReview, "report", Kind::Action,
+         eDialogTab},
         {"review.lessons", QT_TRANSLATE_NOOP("DemoController", "Lessons learned"),
-         QT_TRANSLATE_NOOP("DemoController", "Review"), eAfterAction, ExerciseState::eStopped, RightReview, "lessons"},
+         QT_TRANSLATE_NOOP("DemoController", "Review"), eAfterAction, ExerciseState::eStopped, RightReview, "lessons",
+         Kind::Page, eDialogTab},
         {"tools.settings", QT_TRANSLATE_NOOP("DemoController", "Settings"),
-         QT_TRANSLATE_NOOP("DemoController", "Tools"), eSpecial, kAll, 0, "settings"},
+         QT_TRANSLATE_NOOP("DemoController", "Tools"), eSpecial, kAll, 0, "settings", Kind::Page, eDialogTab},
         {"tools.notify", QT_TRANSLATE_NOOP("DemoController", "Test notifications"),
-         QT_TRANSLATE_NOOP("DemoController", "Tools"), eSpecial, kAll, 0, "notify"},
+         QT_TRANSLATE_NOOP("DemoController", "Tools"), eSpecial, kAll, 0, "notify", Kind::Action, eDialogTab},
         {"tools.lock", QT_TRANSLATE_NOOP("DemoController", "Second operator"),
-         QT_TRANSLATE_NOOP("DemoController", "Tools"), eSpecial, kAll, 0, "lock"},
+         QT_TRANSLATE_NOOP("DemoController", "Tools"), eSpecial, kAll, 0, "lock", Kind::Action, eDialogTab},
     };
     return list;
 }
@@ -136,10 +145,8 @@ DemoController::DemoController(QObject* parent)
     connect(m_shell, &OrvBaseLayoutWidget::signalStapleTopicLockHandler, this, &DemoController::onStaple);
     connect(m_shell, &OrvBaseLayoutWidget::signalRetranslateActions, this, &DemoController::retranslateMenu);
     connect(m_shell, &OrvBaseLayoutWidget::signalClose, this, &DemoController::closeRequested);
-    connect(m_shell, &OrvBaseLayoutWidget::signalLogout, this, [this] {
-        notify(tr("Logout"), tr("Log out at the session manager."),
-               OrvNotificationBox::Info);
-    });
+    connect(m_shell, &OrvBaseLayoutWidget::signalLogout, this,
+            [this] { notify(tr("Logout"), tr("Log out at the session manager."), OrvNotificationBox::Info); });
 
     // The library posts its links to the application object.
     qApp->installEventFilter(this);
@@ -176,28 +183,22 @@ QStringList DemoController::menuIdentifiers() const
 PluginData DemoController::pluginData(const Entry& entry)
 {
     const QString identifier = QLatin1String(entry.identifier);
-    if (!entry.text)
+    if (entry.kind == Kind::Separator)
         return PluginData::createGroup(trc(entry.group), identifier, entry.part);
     PluginData data(trc(entry.text), trc(entry.group), identifier, PluginData::createWidgetFuncPtr(), entry.right,
                     entry.part, ExerciseStates(entry.states));
     data.tooltip = trc(entry.text);
+    data.layoutArea = entry.area;
     if (entry.icon)
         data.menuIcon = QIcon(QStringLiteral(":/demo/icons/%1.svg").arg(QLatin1String(entry.icon)));
-    const bool isPage = identifier != QLatin1String("plan.check") && identifier != QLatin1String("run.status")
-                        && identifier != QLatin1String("review.report") && identifier != QLatin1String("tools.notify")
-                        && identifier != QLatin1String("tools.lock");
-    if (isPage) {
-        data.createWidgetFunc = [this, identifier](QWidget*) { return createPage(identifier); };
-    } else {
+    if (entry.kind == Kind::Action) {
         data.directFunc = [this, identifier](const PluginData&) { runAction(identifier); };
+        return data;
     }
-    if (identifier == QLatin1String("run.control")) {
-        // Always at hand: created at start in the info area, and not closable.
+    data.createWidgetFunc = [this, identifier](QWidget*) { return createPage(identifier); };
+    if (entry.kind == Kind::InstantPage) {
         data.createInstant = CreateInstantAndAddAction;
-        data.layoutArea = eInfoTab;
         data.closable = false;
-    } else if (identifier == QLatin1String("plan.setup") || identifier == QLatin1String("plan.participants")) {
-        data.layoutArea = eMainTab;
     }
     return data;
 }
@@ -206,8 +207,8 @@ void DemoController::registerMenu()
 {
     for (const Entry& entry : entries())
         m_shell->addMenuAction(pluginData(entry), true);
-    m_shell->setToolBarActions({QStringLiteral("run.control"), QStringLiteral("plan.participants"),
-                                QStringLiteral("tools.notify")});
+    m_shell->setToolBarActions(
+        {QStringLiteral("run.control"), QStringLiteral("plan.participants"), QStringLiteral("tools.notify")});
     m_shell->setFunctionKeys({{Qt::Key_F5, QStringLiteral("run.control")},
                               {Qt::Key_F6, QStringLiteral("plan.participants")},
                               {Qt::Key_F7, QStringLiteral("tools.notify")}});
@@ -217,7 +218,8 @@ void DemoController::retranslateMenu()
 {
     // Same identifiers: the shell updates texts in place.
     for (const Entry& entry : entries()) {
-        if (entry.text && OrvSessionData::OrvSessionData::getInstance()->hasOperatorRight(entry.right))
+        if (entry.kind != Kind::Separator &&
+            OrvSessionData::OrvSessionData::getInstance()->hasOperatorRight(entry.right))
             m_shell->addMenuAction(pluginData(entry), false);
     }
     m_shell->setAppName(tr("Exercise Control"));
@@ -228,8 +230,7 @@ OrvDialog* DemoController::createPage(const QString& identifier)
 {
     if (identifier == QLatin1String("plan.setup"))
         return new ExerciseSetupPage(m_exercise);
-    if (identifier == QLatin1String("plan.participants"))
-    {
+    if (identifier == QLatin1String("plan.participants")) {
         auto* page = new ParticipantsPage(kParticipants);
         m_participantsPage = page;
         return page;
@@ -237,9 +238,8 @@ OrvDialog* DemoController::createPage(const QString& identifier)
     if (identifier == QLatin1String("run.control"))
         return new ExerciseControlPage(m_exercise);
     if (identifier == QLatin1String("run.log")) {
-        return new EventLogPage(m_eventLog, [this](QObject* context, std::function<void()> done) {
-            serverRequest(context, done);
-        });
+        return new EventLogPage(m_eventLog,
+                                [this](QObject* context, std::function<void()> done) { serverRequest(context, done); });
     }
     if (identifier == QLatin1String("tools.settings")) {
         auto* page = new SettingsPage;
@@ -283,8 +283,8 @@ void DemoController::runAction(const QString& identifier)
             std::make_unique<Waiter>(tr("Waiting for the exercise server...")));
         serverRequest(this, [wait] { wait->reset(); });
     } else if (identifier == QLatin1String("plan.check")) {
-        const bool complete = !m_exercise->name().isEmpty() && !m_exercise->phases().isEmpty()
-                              && m_exercise->plannedEnd() > m_exercise->plannedStart();
+        const bool complete = !m_exercise->name().isEmpty() && !m_exercise->phases().isEmpty() &&
+                              m_exercise->plannedEnd() > m_exercise->plannedStart();
         notify(tr("Plan check"),
                complete ? tr("The plan of <b>%1</b> is complete.").arg(m_exercise->name().toHtmlEscaped())
                         : tr("The plan is incomplete. <a href='orv://OpenPage/plan.setup'>Open it</a>"),
@@ -304,8 +304,7 @@ void DemoController::serverRequest(QObject* context, const std::function<void()>
     QTimer::singleShot(m_serverMs, context, [this, done] {
         done();
         m_eventLog->add(EventLogModel::Server, tr("Exercise server: all %1 participants reporting").arg(kParticipants));
-        notify(tr("Exercise server"), tr("All participants are reporting."),
-               OrvNotificationBox::Success);
+        notify(tr("Exercise server"), tr("All participants are reporting."), OrvNotificationBox::Success);
     });
 }
 
@@ -334,16 +333,13 @@ void DemoController::notify(const QString& title, const QString& text, OrvNotifi
 
 void DemoController::showTestNotifications()
 {
-    notify(tr("Information"),
-           tr("Participant 19 has joined. <a href='orv://ParticipantInfo/19'>Show</a>"),
+    notify(tr("Information"), tr("Participant 19 has joined. <a href='orv://ParticipantInfo/19'>Show</a>"),
            OrvNotificationBox::Info, QStringLiteral("test-info"));
     notify(tr("Success"), tr("Plan sent to all work stations."), OrvNotificationBox::Success,
            QStringLiteral("test-success"));
-    notify(tr("Warning"),
-           tr("Participant 42: low supplies. <a href='orv://ParticipantInfo/42'>Show</a>"),
+    notify(tr("Warning"), tr("Participant 42: low supplies. <a href='orv://ParticipantInfo/42'>Show</a>"),
            OrvNotificationBox::Warning, QStringLiteral("test-warning"));
-    notify(tr("Error"),
-           tr("WS-03 does not answer. <a href='orv://OpenPage/run.log'>Event log</a>"),
+    notify(tr("Error"), tr("WS-03 does not answer. <a href='orv://OpenPage/run.log'>Event log</a>"),
            OrvNotificationBox::Error, QStringLiteral("test-error"));
 }
 
@@ -374,9 +370,7 @@ void DemoController::simulateSecondOperator()
             page->slotLock(m_otherOperator);
     }
     m_eventLog->add(EventLogModel::Operator, tr("Operator %1 is editing the exercise plan").arg(m_otherOperator));
-    notify(tr("Exercise plan locked"),
-           tr("%1 is editing the plan; read-only for now.")
-               .arg(m_otherOperator),
+    notify(tr("Exercise plan locked"), tr("%1 is editing the plan; read-only for now.").arg(m_otherOperator),
            OrvNotificationBox::Warning, QStringLiteral("plan-lock"));
     m_releaseTimer->start();
 }
@@ -394,8 +388,8 @@ void DemoController::releaseSecondOperator()
             page->slotUnlock();
     }
     m_eventLog->add(EventLogModel::Operator, tr("Operator %1 released the exercise plan").arg(holder));
-    notify(tr("Exercise plan released"), tr("%1 is done; you can edit the plan.").arg(holder),
-           OrvNotificationBox::Info, QStringLiteral("plan-lock"));
+    notify(tr("Exercise plan released"), tr("%1 is done; you can edit the plan.").arg(holder), OrvNotificationBox::Info,
+           QStringLiteral("plan-lock"));
 }
 
 void DemoController::handleLink(const QUrl& url)

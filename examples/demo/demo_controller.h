@@ -21,7 +21,7 @@ class OrvBackgroundWidget;
 class OrvBaseLayoutWidget;
 class OrvDialog;
 class TopicInfo;
-}
+} // namespace OrvWidgets
 
 // The application: builds the shell and its menu, keeps the exercise, the
 // event log and the topic locks, and reacts to the links the library posts.
@@ -67,6 +67,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    // What a menu entry does: open a page (an instant one is there from the
+    // start and cannot be closed), run an action, or separate its group.
+    enum class Kind { Page, InstantPage, Action, Separator };
     struct Entry
     {
         const char* identifier;
@@ -76,6 +79,8 @@ private:
         int states;
         int right;
         const char* icon;
+        Kind kind;
+        OrvWidgets::LayoutArea area;
     };
     static const QList<Entry>& entries();
     OrvWidgets::PluginData pluginData(const Entry& entry);

@@ -1,7 +1,10 @@
 #pragma once
 
-// Small inspection helpers shared by the page framework tests.
+// Small helpers shared by the page framework and shell tests.
 
+#include <orv_dialog.h>
+
+#include <QLineEdit>
 #include <QPushButton>
 #include <QStringList>
 #include <QWidget>
@@ -19,5 +22,13 @@ inline QStringList visibleButtons(QWidget* box)
     names.sort();
     return names;
 }
+
+// The simplest page with something to edit, titled "Page".
+class EditPage : public OrvWidgets::OrvDialog
+{
+public:
+    EditPage() : OrvDialog(nullptr, OrvWidgets::OkApplyCancel, true) { new QLineEdit(this); }
+    void retranslate() override { translate(QStringLiteral("Page")); }
+};
 
 } // namespace OrvTest

@@ -6,6 +6,7 @@
 #include <orv_settings.h>
 #include <orv_tab_widget.h>
 #include <orv_test_support.h>
+#include <orv_test_widgets.h>
 #include <orv_tool_bar_area.h>
 #include <orv_tool_box.h>
 
@@ -15,12 +16,7 @@ using namespace OrvWidgets;
 
 namespace {
 
-class Page : public OrvDialog
-{
-public:
-    Page() : OrvDialog(nullptr, OkApplyCancel, true) { new QLineEdit(this); }
-    void retranslate() override { translate(QStringLiteral("Page")); }
-};
+using Page = OrvTest::EditPage;
 
 // A shell whose menu entries count the pages they create.
 class Shell : public OrvBaseLayoutWidget

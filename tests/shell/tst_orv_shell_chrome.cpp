@@ -5,6 +5,7 @@
 #include <orv_events.h>
 #include <orv_settings.h>
 #include <orv_test_support.h>
+#include <orv_test_widgets.h>
 
 #include <QtTest>
 
@@ -14,12 +15,7 @@ using namespace OrvWidgets;
 
 namespace {
 
-class Page : public OrvDialog
-{
-public:
-    Page() : OrvDialog(nullptr, OkApplyCancel, true) { new QLineEdit(this); }
-    void retranslate() override { translate(QStringLiteral("Page")); }
-};
+using Page = OrvTest::EditPage;
 
 QString shownText(OrvBaseLayoutWidget& shell)
 {

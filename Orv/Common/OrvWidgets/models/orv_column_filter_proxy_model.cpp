@@ -678,10 +678,9 @@ bool OrvColumnFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelInde
     const QAbstractItemModel* model = d->model;
     if (!model)
         return true;
-    if (sourceParent.isValid())
-        return d->accepts(model, sourceRow, sourceParent);
     const bool accepted = d->accepts(model, sourceRow, sourceParent);
-    d->noteAccepted(sourceRow, accepted);
+    if (!sourceParent.isValid())
+        d->noteAccepted(sourceRow, accepted);
     return accepted;
 }
 
