@@ -1,13 +1,10 @@
 #include <orv_base_layout_widget.h>
-#include <orv_dialog.h>
-#include <orv_dialog_helper.h>
 #include <orv_drag_icon.h>
 #include <orv_session_data.h>
 #include <orv_settings.h>
 #include <orv_tab_widget.h>
 #include <orv_test_support.h>
 #include <orv_test_widgets.h>
-#include <orv_tool_bar_area.h>
 #include <orv_tool_box.h>
 
 #include <QtTest>
@@ -27,12 +24,11 @@ public:
     PluginData entry(const QString& id, const QString& group = "G", ExercisePart part = eSpecial,
                      LayoutArea area = eDialogTab)
     {
-        PluginData data(id + " text", group, id,
-                        [this](QWidget*) -> OrvDialog* {
-                            ++created;
-                            return new Page;
-                        },
-                        0, part);
+        const auto create = [this](QWidget*) -> OrvDialog* {
+            ++created;
+            return new Page;
+        };
+        PluginData data(id + " text", group, id, create, 0, part);
         data.layoutArea = area;
         return data;
     }
@@ -54,65 +50,12 @@ class TestOrvBaseLayoutWidget : public QObject
 private Q_SLOTS:
     void init() { OrvSessionData::OrvSessionData::getInstance()->setOperatorRights(0); }
 
-    void formAndAreas_data()
+    void areasAndBadInput()
     {
-        QTest::addColumn<int>("area");
-        QTest::addColumn<QString>("tabWidget");
-        QTest::newRow("unknown") << int(eUnknown) << "detailWidget";
-        QTest::newRow("info") << int(eInfoTab) << "infoWidget";
-        QTest::newRow("dialog") << int(eDialogTab) << "detailWidget";
-        QTest::newRow("special") << int(eSpecialTab) << "specialWidget";
-        QTest::newRow("main") << int(eMainTab) << "mainWidget";
-    }
-    void formAndAreas()
-    {
-        QFETCH(int, area);
-        QFETCH(QString, tabWidget);
-        OrvBaseLayoutWidget shell(nullptr, true);
-        QCOMPARE(shell.getTabFromLayoutArea(LayoutArea(area))->objectName(), tabWidget);
-        QVERIFY(!shell.getTabFromLayoutArea(LayoutArea(17)));
-        QCOMPARE(shell.minimumSize(), QSize(1280, 900));
-        for (const char* name : {"masterSplitter", "mainSplitter", "rightSplitter"})
-            QCOMPARE(shell.findChild<QSplitter*>(name)->handleWidth(), 10);
-    }
-
-    void pagesOpenInTheirAreaAndComeToFront()
-    {
-        OrvBaseLayoutWidget shell(nullptr, true);
-        shell.show();
-        QSignalSpy staple(&shell, &OrvBaseLayoutWidget::signalStapleTopicLockHandler);
-        auto* page = new Page;
-        QVERIFY(shell.addWidget(page, "Planning", "setup", eMainTab, true, true));
-        QCOMPARE(staple.count(), 1);
-        QCOMPARE(shell.getWidget("Planning", "setup", eMainTab), page);
-        QVERIFY(!shell.getWidget("Planning", "setup", eDialogTab));
-        QVERIFY(shell.isDialogFocused(page));
-        QCOMPARE(page->identifier(), QStringLiteral("setup"));
-        QCOMPARE(page->menuGroup(), QStringLiteral("Planning"));
-
-        // Same key again: refused, the new page is discarded, the old one focused.
-        QPointer<Page> duplicate = new Page;
-        QVERIFY(!shell.addWidget(duplicate, "Planning", "setup", eMainTab, true, true));
-        QTRY_VERIFY(!duplicate);
-        QCOMPARE(shell.getWidget("Planning", "setup", eMainTab), page);
-
-        // An empty identifier always adds a new tab.
-        QVERIFY(shell.addWidget(new Page, "Planning", "", eMainTab, true, true));
-        QVERIFY(shell.addWidget(new Page, "Planning", "", eMainTab, true, true));
-        QCOMPARE(shell.getTabFromLayoutArea(eMainTab)->count(), 3);
-        QVERIFY(shell.focusTab("Planning", "setup", eMainTab));
-        QVERIFY(shell.isDialogFocused(page));
-
-        QPointer<Page> first = page;
-        auto* second = new Page;
-        QVERIFY(shell.addOrReplaceWidget(second, "Planning", "setup", eMainTab, true, true));
-        QCOMPARE(shell.getWidget("Planning", "setup", eMainTab), second);
-        QTRY_VERIFY(!first);
-    }
-
-    void badInput()
-    {
-        OrvBaseLayoutWidget shell(nullptr, true);
+        Shell shell;
+        const char* const tabs[] = {"detailWidget", "infoWidget", "detailWidget", "specialWidget", "mainWidget"};
+        for (int area = eUnknown; area <= eMainTab; ++area)
+            QCOMPARE(shell.getTabFromLayoutArea(LayoutArea(area))->objectName(), QLatin1String(tabs[area]));
         QTest::ignoreMessage(QtWarningMsg, "OrvBaseLayoutWidget::addWidget: cannot add null-widget!");
         QVERIFY(!shell.addWidget(nullptr, "G", "I", eMainTab, true, true));
         QTest::ignoreMessage(QtWarningMsg, "OrvBaseLayoutWidget::addWidget: tab, by enum type, not found!");
@@ -123,10 +66,36 @@ private Q_SLOTS:
         QVERIFY(!shell.focusTab("G", "I", LayoutArea(9)));
     }
 
-    void layoutVisibility()
+    void pagesOpenInTheirAreaComeToFrontAndHide()
     {
-        OrvBaseLayoutWidget shell(nullptr, true);
+        Shell shell;
         shell.show();
+        QSignalSpy staple(&shell, &OrvBaseLayoutWidget::signalStapleTopicLockHandler);
+        auto* page = new Page;
+        QVERIFY(shell.addWidget(page, "Planning", "setup", eMainTab, true, true));
+        QCOMPARE(staple.count(), 1);
+        QCOMPARE(shell.getWidget("Planning", "setup", eMainTab), page);
+        QVERIFY(!shell.getWidget("Planning", "setup", eDialogTab));
+        QVERIFY(shell.isDialogFocused(page));
+
+        // Same key again: refused, the new page is discarded, the old one focused.
+        QPointer<Page> duplicate = new Page;
+        QVERIFY(!shell.addWidget(duplicate, "Planning", "setup", eMainTab, true, true));
+        QTRY_VERIFY(!duplicate);
+        QCOMPARE(shell.getWidget("Planning", "setup", eMainTab), page);
+
+        // An empty identifier always adds a new tab.
+        for (int i = 0; i < 2; ++i)
+            QVERIFY(shell.addWidget(new Page, "Planning", "", eMainTab, true, true));
+        QCOMPARE(shell.getTabFromLayoutArea(eMainTab)->count(), 3);
+        QVERIFY(shell.focusTab("Planning", "setup", eMainTab));
+        QVERIFY(shell.isDialogFocused(page));
+
+        QPointer<Page> first = page;
+        QVERIFY(shell.addOrReplaceWidget(page = new Page, "Planning", "setup", eMainTab, true, true));
+        QCOMPARE(shell.getWidget("Planning", "setup", eMainTab), page);
+        QTRY_VERIFY(!first);
+
         shell.addWidget(new Page, "G", "info", eInfoTab, true, true);
         auto* info = shell.getTabFromLayoutArea(eInfoTab);
         QVERIFY(info->isVisible());
@@ -135,19 +104,9 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg, "OrvBaseLayoutWidget::hideVisibleLayouts: old states available - ignoring");
         shell.hideVisibleLayouts();
         shell.resetLayoutVisibility();
-        QVERIFY(info->isVisible());
-        QVERIFY(shell.getTabFromLayoutArea(eMainTab)->isVisible());
-
-        shell.showWidgets();
-        QVERIFY(shell.isWidgetsHidden()); // true while shown: the interface's sense
-        shell.hideWidgets();
-        QVERIFY(!shell.isWidgetsHidden());
-
-        QVERIFY(!shell.isIrreplaceable());
+        QVERIFY(info->isVisible() && shell.getTabFromLayoutArea(eMainTab)->isVisible());
         shell.setIrreplaceableOnce();
-        QVERIFY(shell.isIrreplaceable());
-        QVERIFY(shell.irreplaceableReset());
-        QVERIFY(!shell.irreplaceableReset());
+        QVERIFY(shell.irreplaceableReset() && !shell.irreplaceableReset());
     }
 
     void menuEntriesOpenPagesOnceAndDrivePartButtons()
@@ -159,24 +118,20 @@ private Q_SLOTS:
         OrvDragIcon* setup = shell.add("setup", "Exercise", ePlanning);
         QVERIFY(planning->isHidden()); // one part only: no part buttons
         OrvDragIcon* log = shell.add("log", "Monitoring", eExecution, eMainTab);
-        QVERIFY(setup && log);
-        QVERIFY(!planning->isHidden());
-        QVERIFY(!execution->isHidden());
-        QVERIFY(execution->isChecked());
+        QVERIFY(!planning->isHidden() && !execution->isHidden() && execution->isChecked());
         QCOMPARE(setup->objectName(), QStringLiteral("setup"));
         QCOMPARE(shell.toolBox("naviActionsPlanning")->count(), 1);
         QCOMPARE(shell.toolBox("naviActionsExecution")->count(), 1);
         QCOMPARE(shell.toolBox("naviActionsPlanning")->itemText(0), QStringLiteral("Exercise"));
 
         Q_EMIT setup->clicked();
-        QCOMPARE(shell.created, 1);
         QVERIFY(shell.getWidget("Exercise", "setup", eDialogTab));
         Q_EMIT setup->clicked(); // open already: focused, not created again
         QCOMPARE(shell.created, 1);
         shell.executeAction("log");
+        shell.executeAction("nothing"); // no entry: nothing happens
         QCOMPARE(shell.created, 2);
         QVERIFY(shell.getWidget("Monitoring", "log", eMainTab));
-        shell.executeAction("nothing"); // no entry: nothing happens
 
         QVERIFY(shell.removeMenuAction(log));
         QCOMPARE(shell.toolBox("naviActionsExecution")->count(), 0); // the emptied group is gone
@@ -191,7 +146,7 @@ private Q_SLOTS:
         QCOMPARE(withoutParts.toolBox("naviActionsPlanning")->count(), 0);
     }
 
-    void rightsUpdatesAndSeparators()
+    void rightsUpdatesSeparatorsAndStates()
     {
         Shell shell;
         PluginData secret = shell.entry("secret");
@@ -200,10 +155,9 @@ private Q_SLOTS:
         OrvSessionData::OrvSessionData::getInstance()->setOperatorRights(4);
         QVERIFY(shell.addMenuAction(secret, false));
 
-        PluginData renamed = secret;
-        renamed.menuText = "Renamed";
-        renamed.menuGroup = "Other";
-        QVERIFY(!shell.addMenuAction(renamed, false)); // updated in place
+        secret.menuText = "Renamed";
+        secret.menuGroup = "Other";
+        QVERIFY(!shell.addMenuAction(secret, false)); // updated in place
         OrvDragIcon* button = shell.mapButtons().firstKey();
         QCOMPARE(button->text(), QStringLiteral("Renamed"));
         QCOMPARE(button->context(), QStringLiteral("Other"));
@@ -213,88 +167,59 @@ private Q_SLOTS:
         QVERIFY(shell.toolBox("naviActionsSpecial")->widget(0)->findChild<QFrame*>());
         QVERIFY(!shell.addMenuAction(PluginData::createGroup("Unknown", "sep2"), false));
         QCOMPARE(shell.toolBox("naviActionsSpecial")->count(), 1); // no group made for a separator
+
+        PluginData onlyCreated = shell.entry("c");
+        onlyCreated.exerciseStates = ExerciseState::eCreated;
+        OrvDragIcon* c = shell.addMenuAction(onlyCreated, false);
+        ExerciseData data;
+        data.exState = ExerciseState::eStarted;
+        shell.setExerciseData(data);
+        QVERIFY(!c->buttonVisible() && button->buttonVisible());
+        data.exState = ExerciseState::eCreated;
+        shell.setExerciseData(data);
+        QVERIFY(c->buttonVisible());
     }
 
-    void developerMessagesForBrokenEntries_data()
-    {
-        QTest::addColumn<QString>("id");
-        QTest::addColumn<QString>("group");
-        QTest::addColumn<QString>("start");
-        QTest::newRow("no identifier") << "" << "G" << "STOP!\nHier wurde ein Menu Entry hinzugefuegt, welcher ueber keinen Identifier";
-        QTest::newRow("no group") << "id" << "" << "STOP!\nHier wurde ein Menu Entry hinzugefuegt, welcher ueber keine Menu Group";
-    }
     void developerMessagesForBrokenEntries()
     {
-        QFETCH(QString, id);
-        QFETCH(QString, group);
-        QFETCH(QString, start);
         Shell shell;
         OrvTest::DialogAnswerer answerer;
-        answerer.click("Ok");
-        QVERIFY(!shell.add(id, group));
-        QCOMPARE(answerer.answered(), 1);
-        QVERIFY2(answerer.texts().first().startsWith(start), qPrintable(answerer.texts().first()));
-        QVERIFY(answerer.texts().first().endsWith("um welchen Menu Entry es sich handelt =)"));
+        answerer.click("Ok").click("Ok");
+        QVERIFY(!shell.add("", "G"));
+        QVERIFY(!shell.add("id", ""));
+        QCOMPARE(answerer.answered(), 2);
+        const QString stop("STOP!\nHier wurde ein Menu Entry hinzugefuegt, welcher ueber %1 verfuegt!");
+        QVERIFY2(answerer.texts().at(0).startsWith(stop.arg("keinen Identifier")), qPrintable(answerer.texts().at(0)));
+        QVERIFY2(answerer.texts().at(1).startsWith(stop.arg("keine Menu Group")), qPrintable(answerer.texts().at(1)));
+        for (const QString& text : answerer.texts())
+            QVERIFY(text.endsWith("um welchen Menu Entry es sich handelt =)"));
         QVERIFY(shell.mapButtons().isEmpty());
     }
 
-    void instantEntries_data()
+    // Instant entries run both functions when executed; a discarded one leaves no button.
+    void instantEntriesAndNullPages()
     {
-        QTest::addColumn<int>("instant");
-        QTest::addColumn<bool>("execute");
-        QTest::addColumn<int>("created");
-        QTest::addColumn<bool>("listed");
-        QTest::newRow("add, executed") << int(CreateInstantAndAddAction) << true << 1 << true;
-        QTest::newRow("add, not executed") << int(CreateInstantAndAddAction) << false << 0 << true;
-        QTest::newRow("discard, executed") << int(CreateInstantAndDiscardAction) << true << 1 << false;
-        QTest::newRow("discard, not executed") << int(CreateInstantAndDiscardAction) << false << 0 << false;
-    }
-    void instantEntries()
-    {
-        QFETCH(int, instant);
-        QFETCH(bool, execute);
-        QFETCH(int, created);
-        QFETCH(bool, listed);
-        Shell shell;
-        int direct = 0;
-        PluginData data = shell.entry("instant");
-        data.directFunc = [&direct](const PluginData&) { ++direct; };
-        data.createInstant = CreateInstantType(instant);
-        shell.addMenuAction(data, execute);
-        QCOMPARE(shell.created, created);
-        QCOMPARE(direct, created); // an instant entry runs both functions
-        QCOMPARE(!shell.mapButtons().isEmpty(), listed);
-    }
-
-    void nullPageLeavesTheShellUsable()
-    {
-        OrvBaseLayoutWidget shell(nullptr, true);
-        PluginData broken("Broken", "G", "broken", [](QWidget*) -> OrvDialog* { return nullptr; });
-        OrvDragIcon* button = shell.addMenuAction(broken, false);
-        Q_EMIT button->clicked();
+        for (const CreateInstantType instant : {CreateInstantAndAddAction, CreateInstantAndDiscardAction}) {
+            for (const bool execute : {true, false}) {
+                Shell shell;
+                int direct = 0;
+                PluginData data = shell.entry("instant");
+                data.directFunc = [&direct](const PluginData& d) { direct += d.identifier == "instant"; };
+                data.createInstant = instant;
+                shell.addMenuAction(data, execute);
+                QCOMPARE(shell.created, int(execute));
+                QCOMPARE(direct, int(execute));
+                QCOMPARE(shell.mapButtons().isEmpty(), instant == CreateInstantAndDiscardAction);
+            }
+        }
+        Shell shell; // a page function that returns nothing leaves the shell usable; an action runs on click
+        Q_EMIT shell.addMenuAction({"Broken", "G", "broken", [](QWidget*) -> OrvDialog* { return nullptr; }}, false)->clicked();
         QCOMPARE(shell.getTabFromLayoutArea(eDialogTab)->count(), 0);
         int direct = 0;
         PluginData action("Action", "G", "action", nullptr);
         action.directFunc = [&direct](const PluginData& d) { direct += d.identifier == "action"; };
         Q_EMIT shell.addMenuAction(action, false)->clicked();
         QCOMPARE(direct, 1);
-    }
-
-    void exerciseStateHidesButtons()
-    {
-        Shell shell;
-        PluginData onlyCreated = shell.entry("c");
-        onlyCreated.exerciseStates = ExerciseState::eCreated;
-        OrvDragIcon* c = shell.addMenuAction(onlyCreated, false);
-        OrvDragIcon* all = shell.add("all");
-        ExerciseData data;
-        data.exState = ExerciseState::eStarted;
-        shell.setExerciseData(data);
-        QVERIFY(!c->buttonVisible());
-        QVERIFY(all->buttonVisible());
-        data.exState = ExerciseState::eCreated;
-        shell.setExerciseData(data);
-        QVERIFY(c->buttonVisible());
     }
 
     // Tool bar entries not added yet wait for their buttons; F-keys open pages; both survive a restart in order.
@@ -312,7 +237,6 @@ private Q_SLOTS:
             shell.add("later");
             QCOMPARE(shell.toolBarActions(), QStringList({"a", "later"}));
             shell.setFunctionKeys({{Qt::Key_F5, "later"}});
-            QCOMPARE(shell.functionKeys().value(Qt::Key_F5), QStringLiteral("later"));
             shell.activateWindow();
             QVERIFY(QTest::qWaitForWindowActive(&shell));
             QTest::keyClick(&shell, Qt::Key_F5);
@@ -326,7 +250,8 @@ private Q_SLOTS:
         QCOMPARE(shell.functionKeys().value(Qt::Key_F5), QStringLiteral("later"));
     }
 
-    void destroyedWithOpenPagesAndAnimation()
+    // No leak, no crash (sanitizer build) with pages, animations and a sliding-in message under way.
+    void destroyedWithOpenPagesAndAnimations()
     {
         auto* shell = new Shell;
         shell->show();
@@ -334,8 +259,10 @@ private Q_SLOTS:
         shell->executeAction("a");
         shell->addWidget(new Page, "G", "b", eDialogTab, true, true);
         shell->onHideAnimated();
-        shell->showMessage("t", "x", OrvNotificationBox::Info);
-        delete shell; // no leak, no crash (sanitizer build)
+        shell->showMessage("t", "x", OrvNotificationBox::Error);
+        QTest::qWait(100); // the slide-in runs for 700 ms
+        delete shell;
+        QTest::qWait(50);
     }
 };
 

@@ -1,9 +1,11 @@
 #include <dax_translation.h>
 #include <orv_background_widget.h>
+#include <orv_base_layout_widget.h>
+#include <orv_dialog_helper.h>
 #include <orv_global_wait_dialog.h>
 #include <orv_operator_menu.h>
 #include <orv_profile_button.h>
-#include <orv_test_support.h>
+#include <orv_test_widgets.h>
 #include <splash.h>
 
 #include <QtTest>
@@ -17,13 +19,12 @@ private Q_SLOTS:
     void profileButton()
     {
         OrvProfileButton button(nullptr);
-        QVERIFY(!button.pixmap().isNull()); // placeholder from "icon:no_pic.svg"
         QPixmap red(10, 10);
         red.fill(Qt::red);
         button.setPixmap(red);
         QCOMPARE(button.pixmap().size(), QSize(10, 10));
         button.setPixmap(QPixmap());
-        QVERIFY(!button.pixmap().isNull());
+        QVERIFY(!button.pixmap().isNull()); // the placeholder from "icon:no_pic.svg"
 
         QSignalSpy clicked(&button, &OrvProfileButton::signalClicked);
         button.resize(48, 48);
@@ -32,7 +33,6 @@ private Q_SLOTS:
         button.setMenuEnabled(false);
         QTest::mouseClick(&button, Qt::LeftButton);
         QCOMPARE(clicked.count(), 1);
-        QVERIFY(button.hasHeightForWidth());
     }
 
     void menuWiring_data()
@@ -70,37 +70,35 @@ private Q_SLOTS:
         QVERIFY(hidden.findChild<QPushButton*>("pbWindow")->isHidden());
         hidden.setOperatorSettingsButton(false);
         QVERIFY(hidden.findChild<QPushButton*>("pbOperatorSettings")->isHidden());
+        // Control picks the plain terminal.
+        QCOMPARE(OrvOperatorMenu::terminalProgram(Qt::NoModifier), QStringLiteral("konsole"));
+        QCOMPARE(OrvOperatorMenu::terminalProgram(Qt::ControlModifier), QStringLiteral("xterm"));
+        QCOMPARE(OrvOperatorMenu::terminalProgram(Qt::ControlModifier | Qt::ShiftModifier), QStringLiteral("konsole"));
     }
 
-    void terminalProgram_data()
+    // The operator menu's language buttons switch the whole application live, and back.
+    void languageButtonsSwitchTheShell()
     {
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<QString>("program");
-        QTest::newRow("none") << int(Qt::NoModifier) << "konsole";
-        QTest::newRow("control") << int(Qt::ControlModifier) << "xterm";
-        QTest::newRow("control+shift") << int(Qt::ControlModifier | Qt::ShiftModifier) << "konsole";
-    }
-    void terminalProgram()
-    {
-        QFETCH(int, modifiers);
-        QFETCH(QString, program);
-        QCOMPARE(OrvOperatorMenu::terminalProgram(Qt::KeyboardModifiers(modifiers)), program);
-    }
-
-    void languageButtons()
-    {
+        OrvBaseLayoutWidget shell(nullptr, true);
+        shell.show();
+        auto* page = new OrvTest::EditPage;
+        shell.addWidget(page, "G", "I", eDialogTab, true, true);
         OrvOperatorMenu menu("Alice", "", false, 1, nullptr);
-        auto* german = menu.findChild<QPushButton*>("pbGer");
-        auto* english = menu.findChild<QPushButton*>("pbInt");
-        QVERIFY(english->isChecked());
-        german->click();
+        QVERIFY(menu.findChild<QPushButton*>("pbInt")->isChecked());
+        const auto texts = [&] {
+            return QStringList{menu.findChild<QPushButton*>("pbLogout")->text(),
+                               shell.findChild<QPushButton*>("pbPlanning")->text(),
+                               shell.findChild<QLabel*>("lbExerciseName")->text(),
+                               page->getHelper()->findChild<QPushButton*>("pbClose")->text()};
+        };
+        menu.findChild<QPushButton*>("pbGer")->click();
         QCOMPARE(Dax::translationLocale(), QByteArray("de_DE"));
         QCoreApplication::processEvents();
-        QCOMPARE(menu.findChild<QPushButton*>("pbLogout")->text(), QStringLiteral("Abmelden"));
-        english->click();
+        QCOMPARE(texts(), QStringList({"Abmelden", "Planung", "keine Übung", "Abbrechen"}));
+        menu.findChild<QPushButton*>("pbInt")->click();
         QCOMPARE(Dax::translationLocale(), QByteArray("en_GB"));
         QCoreApplication::processEvents();
-        QCOMPARE(menu.findChild<QPushButton*>("pbLogout")->text(), QStringLiteral("Logout"));
+        QCOMPARE(texts(), QStringList({"Logout", "Planning", "no exercise", "Cancel"}));
     }
 
     void splash()
@@ -124,7 +122,6 @@ private Q_SLOTS:
         QTest::ignoreMessage(QtWarningMsg,
                              "BackgroundWidget::c_tor: file missing or is not a valid image ':/project/background.png'");
         OrvBackgroundWidget widget(nullptr);
-        QVERIFY(widget.windowFlags().testFlag(Qt::FramelessWindowHint));
         QSignalSpy actions(&widget, &OrvBackgroundWidget::signalOperatorAction);
         widget.show();
         QTest::mouseMove(&widget, QPoint(10, 10));
