@@ -1,3 +1,5 @@
+#include <dax_translation.h>
+#include <orv_date_time_edit.h>
 #include <orv_dialog.h>
 #include <orv_dialog_button_box.h>
 #include <orv_dialog_helper.h>
@@ -13,21 +15,6 @@
 #include <QtWidgets>
 
 using namespace OrvWidgets;
-
-namespace OrvWidgets {
-namespace {
-// Stands in for the date-time edit of the editors library, which pages reach
-// only by class name and signal signature.
-class OrvDateTimeEdit : public QWidget
-{
-    Q_OBJECT
-public:
-    using QWidget::QWidget;
-Q_SIGNALS:
-    void dateTimeChanged();
-};
-} // namespace
-} // namespace OrvWidgets
 
 namespace {
 // Stands in for the shell: the page reaches these by name only.
@@ -85,21 +72,17 @@ public:
     UiRequirementList* requirements() const { return m_uiRequirements; }
 
     QLabel* label = new QLabel("Name", this);
-    QLineEdit* edit = new QLineEdit(this);
-    QLineEdit* readOnlyEdit = new QLineEdit(this);
+    QLineEdit *edit = new QLineEdit(this), *readOnlyEdit = new QLineEdit(this), *constEdit = new QLineEdit(this);
     QDateTimeEdit* dateTime = new QDateTimeEdit(this);
-    QComboBox* combo = new QComboBox(this);
-    QComboBox* disabledCombo = new QComboBox(this);
+    QComboBox *combo = new QComboBox(this), *disabledCombo = new QComboBox(this);
     QCheckBox* check = new QCheckBox(this);
     QSpinBox* spin = new QSpinBox(this);
     QDoubleSpinBox* doubleSpin = new QDoubleSpinBox(this);
     QSlider* slider = new QSlider(this);
     QPlainTextEdit* plain = new QPlainTextEdit(this);
     QTextEdit* text = new QTextEdit(this);
-    QPushButton* toggle = new QPushButton("toggle", this);
-    QPushButton* button = new QPushButton("act", this);
+    QPushButton *toggle = new QPushButton("toggle", this), *button = new QPushButton("act", this);
     QTableWidget* table = new QTableWidget(2, 2, this);
-    QLineEdit* constEdit = new QLineEdit(this);
     QGroupBox* constGroup = new QGroupBox(this);
     OrvDateTimeEdit* orvDateTime = new OrvDateTimeEdit(this);
     int retranslations = 0, applies = 0, canceled = 0;
@@ -121,13 +104,7 @@ struct Opened
     QPointer<OrvDialogHelper> frame;
 };
 
-using OrvTest::visibleButtons;
-
-const QString kSatisfied = QString::fromUtf8("\u2022 %1");
-const QString kFailed = QString::fromUtf8("<span style=\"color:#aa0000;\">\u2022 %1</span>");
-
-// A text edit page filled before it is shown (filling a shown page counts as an
-// edit); the frame, and with it the page, goes at scope end.
+// A text edit page filled before it is shown (filling a shown page counts as an edit).
 struct TextPage
 {
     explicit TextPage(const QString& html = QString())
@@ -142,37 +119,15 @@ struct TextPage
     OrvTextEditor2* editor = page->findChild<OrvTextEditor2*>();
 };
 
-// A shown plain widget holding the labels of the requirement tests.
-struct LabelPage : QWidget
-{
-    LabelPage() { show(); }
-    QLabel* label(const QString& text, const QString& toolTip = QString())
-    {
-        auto* l = new QLabel(text, this);
-        l->setToolTip(toolTip);
-        l->show();
-        return l;
-    }
-};
+using OrvTest::visibleButtons;
 
-void edit(Page* p, const QString& widget)
-{
-    if (widget == "lineEdit") p->edit->setText("x");
-    else if (widget == "dateTimeEdit") p->dateTime->setDateTime(p->dateTime->dateTime().addDays(1));
-    else if (widget == "comboBox") p->combo->setCurrentIndex(1);
-    else if (widget == "checkBox") p->check->click();
-    else if (widget == "spinBox") p->spin->setValue(3);
-    else if (widget == "doubleSpinBox") p->doubleSpin->setValue(2.5);
-    else if (widget == "slider") p->slider->setValue(7);
-    else if (widget == "plainTextEdit") p->plain->setPlainText("x");
-    else if (widget == "textEdit") p->text->setPlainText("x");
-    else if (widget == "toggleButton") p->toggle->click();
-    else if (widget == "orvDateTimeEdit") Q_EMIT p->orvDateTime->dateTimeChanged();
-    else if (widget == "const") p->constEdit->setText("x");
-    else if (widget == "insideConst") p->constGroup->findChild<QLineEdit*>()->setText("x");
-    else if (widget == "plainButton") p->button->click();
-}
+const QString kSatisfied = QString::fromUtf8("\u2022 %1");
+const QString kFailed = QString::fromUtf8("<span style=\"color:#aa0000;\">\u2022 %1</span>");
+
+using PageEdit = std::function<void(Page*)>;
 } // namespace
+
+Q_DECLARE_METATYPE(PageEdit)
 
 class TestOrvDialog : public QObject
 {
@@ -186,51 +141,49 @@ private Q_SLOTS:
         QTest::addColumn<bool>("closable");
         QTest::addColumn<QStringList>("visible");
         QTest::addColumn<QString>("closeText");
-        QTest::addColumn<bool>("unchangeable");
         QTest::newRow("OkApplyCancel") << int(OkApplyCancel) << true
-                                       << QStringList{"_pbChanges", "pbApply", "pbClose", "pbOk"} << "Cancel" << false;
-        QTest::newRow("OkCancel") << int(OkCancel) << true << QStringList{"_pbChanges", "pbClose", "pbOk"} << "Cancel"
-                                  << false;
-        QTest::newRow("CloseOnly") << int(CloseOnly) << true << QStringList{"_pbChanges", "pbClose"} << "Close" << true;
-        QTest::newRow("unclosable") << int(OkApplyCancel) << false << QStringList{"_pbChanges", "pbApply"} << "Cancel"
-                                    << false;
-        QTest::newRow("SeamlessDialog") << int(SeamlessDialog) << true << QStringList() << "Close" << false;
+                                       << QStringList{"_pbChanges", "pbApply", "pbClose", "pbOk"} << "Cancel";
+        QTest::newRow("OkCancel") << int(OkCancel) << true << QStringList{"_pbChanges", "pbClose", "pbOk"} << "Cancel";
+        QTest::newRow("CloseOnly") << int(CloseOnly) << true << QStringList{"_pbChanges", "pbClose"} << "Close";
+        QTest::newRow("unclosable") << int(OkApplyCancel) << false << QStringList{"_pbChanges", "pbApply"} << "Cancel";
+        QTest::newRow("SeamlessDialog") << int(SeamlessDialog) << true << QStringList() << "Close";
     }
     void construction()
     {
         QFETCH(int, combination);
         QFETCH(bool, closable);
         QFETCH(QStringList, visible);
-        QFETCH(QString, closeText);
-        QFETCH(bool, unchangeable);
         Opened o(ButtonCombination(combination), closable);
         OrvDialogButtonBox* box = o.page->box();
-        QCOMPARE(box->isVisibleTo(o.frame), combination != SeamlessDialog);
-        if (combination != SeamlessDialog)
-            QCOMPARE(visibleButtons(box), visible);
-        QCOMPARE(box->getButton(Close)->text(), closeText);
-        QCOMPARE(o.page->unchangeable(), unchangeable);
-        QCOMPARE(o.page->isClosable(), closable);
-        QVERIFY(!box->isButtonEnabled(Ok));
-        QVERIFY(!box->isButtonEnabled(Apply));
-        QCOMPARE(o.frame->windowTitle(), QString("Page"));
-        QCOMPARE(o.page->parentWidget()->parentWidget(), o.frame->findChild<QScrollArea*>("scrollArea"));
+        QCOMPARE(box->isVisibleTo(o.frame) ? visibleButtons(box) : QStringList(), visible);
+        QTEST(box->getButton(Close)->text(), "closeText");
+        QVERIFY(!box->isButtonEnabled(Ok) && !box->isButtonEnabled(Apply));
     }
 
     void editMarksPageChanged_data()
     {
-        QTest::addColumn<QString>("widget");
+        QTest::addColumn<PageEdit>("edit");
         QTest::addColumn<bool>("changes");
-        for (const char* w : {"lineEdit", "dateTimeEdit", "comboBox", "checkBox", "spinBox", "doubleSpinBox", "slider",
-                              "plainTextEdit", "textEdit", "toggleButton", "orvDateTimeEdit"})
-            QTest::newRow(w) << QString(w) << true;
-        QTest::newRow("const") << "const" << false;
-        QTest::newRow("insideConst") << "insideConst" << false;
-        QTest::newRow("plainButton") << "plainButton" << false;
+        QTest::newRow("lineEdit") << PageEdit([](Page* p) { p->edit->setText("x"); }) << true;
+        QTest::newRow("dateTimeEdit") << PageEdit([](Page* p) { p->dateTime->setDate(QDate(2030, 1, 1)); }) << true;
+        QTest::newRow("comboBox") << PageEdit([](Page* p) { p->combo->setCurrentIndex(1); }) << true;
+        QTest::newRow("checkBox") << PageEdit([](Page* p) { p->check->click(); }) << true;
+        QTest::newRow("spinBox") << PageEdit([](Page* p) { p->spin->setValue(3); }) << true;
+        QTest::newRow("doubleSpinBox") << PageEdit([](Page* p) { p->doubleSpin->setValue(2.5); }) << true;
+        QTest::newRow("slider") << PageEdit([](Page* p) { p->slider->setValue(7); }) << true;
+        QTest::newRow("plainTextEdit") << PageEdit([](Page* p) { p->plain->setPlainText("x"); }) << true;
+        QTest::newRow("textEdit") << PageEdit([](Page* p) { p->text->setPlainText("x"); }) << true;
+        QTest::newRow("toggleButton") << PageEdit([](Page* p) { p->toggle->click(); }) << true;
+        QTest::newRow("orvDateTimeEdit") << PageEdit([](Page* p) { p->orvDateTime->setMsecsSinceEpoch(1800000000000); })
+                                         << true;
+        QTest::newRow("const") << PageEdit([](Page* p) { p->constEdit->setText("x"); }) << false;
+        QTest::newRow("insideConst") << PageEdit([](Page* p) { p->constGroup->findChild<QLineEdit*>()->setText("x"); })
+                                     << false;
+        QTest::newRow("plainButton") << PageEdit([](Page* p) { p->button->click(); }) << false;
     }
     void editMarksPageChanged()
     {
-        QFETCH(QString, widget);
+        QFETCH(PageEdit, edit);
         QFETCH(bool, changes);
         Page* page = new Page;
         QScopedPointer<OrvDialogHelper> frame(page->getHelper());
@@ -238,31 +191,39 @@ private Q_SLOTS:
         QVERIFY(!page->hasUnsavedChanges());
         frame->show();
         QSignalSpy spy(page, &OrvDialog::signalChangesMade);
-        edit(page, widget);
+        edit(page);
         QCOMPARE(page->hasUnsavedChanges(), changes);
         QCOMPARE(spy.isEmpty(), !changes);
         const QString title = changes ? QString::fromUtf8("\u2022Page") : QString("Page");
         QCOMPARE(frame->windowTitle(), title);
         QCOMPARE(page->QWidget::windowTitle(), title);
         QCOMPARE(page->windowTitle(), QString("Page"));
-        QCOMPARE(page->box()->isButtonEnabled(Ok), changes);
-        QCOMPARE(page->box()->isButtonEnabled(Apply), changes);
+        QCOMPARE((QList<bool>{page->box()->isButtonEnabled(Ok), page->box()->isButtonEnabled(Apply)}),
+                 QList<bool>(2, changes));
+
+        page->retranslateTouchesEdit = true; // re-set texts fire change signals: no change either way
+        QEvent event(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(frame.data(), &event);
+        QCOMPARE(page->retranslations, 2);
+        QCOMPARE(page->hasUnsavedChanges(), changes);
+        QCOMPARE(page->box()->getButton(Close)->text(), QString("Cancel"));
     }
 
-    void applyFlow()
+    // Apply checks the requirements, then asks the page; Close on a changed page asks what to do.
+    void applyAndCloseFlow()
     {
         Opened o;
         Page* page = o.page;
-        page->requirements()->addRequirement(UiRequirement(page->label, [page] { return !page->edit->text().isEmpty(); }, "fill me"));
+        page->requirements()->addRequirement(
+            UiRequirement(page->label, [page] { return !page->edit->text().isEmpty(); }, "fill me"));
         page->spin->setValue(4);
         QSignalSpy reset(page, &OrvDialog::signalChangesReset);
         OrvTest::DialogAnswerer answerer;
         answerer.click("Ok");
         page->box()->getButton(Apply)->click();
-        QCOMPARE(answerer.answered(), 1);
-        QCOMPARE(answerer.texts().first(),
-                 QString("<b>Operation not complete</b><br><br>There are elements that have invalid or no "
-                         "value.<br>Please change values in the elements which are marked with red text."));
+        QCOMPARE(answerer.texts(), QStringList("<b>Operation not complete</b><br><br>There are elements that have "
+                                               "invalid or no value.<br>Please change values in the elements which "
+                                               "are marked with red text."));
         QCOMPARE(page->applies, 0);
         QVERIFY(page->hasUnsavedChanges());
         QCOMPARE(page->label->text(), kFailed.arg("Name"));
@@ -285,41 +246,16 @@ private Q_SLOTS:
         QVERIFY(!page->box()->isButtonEnabled(Ok));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QVERIFY(o.frame && o.frame->isVisible()); // Apply does not close
-    }
 
-    void closeChangedPage_data()
-    {
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<bool>("closed");
-        QTest::addColumn<int>("applies");
-        QTest::addColumn<int>("canceled");
-        QTest::newRow("apply") << "Apply" << true << 1 << 0;
-        QTest::newRow("discard") << "Discard" << true << 0 << 1;
-        QTest::newRow("cancel") << "Cancel" << false << 0 << 0;
-        QTest::newRow("escape") << "" << false << 0 << 0;
-    }
-    void closeChangedPage()
-    {
-        QFETCH(QString, answer);
-        QFETCH(bool, closed);
-        QFETCH(int, applies);
-        QFETCH(int, canceled);
-        Opened o;
-        o.page->edit->setText("x");
-        OrvTest::DialogAnswerer answerer;
-        answer.isEmpty() ? answerer.escape() : answerer.click(answer);
-        o.page->box()->getButton(Close)->click();
-        QCOMPARE(answerer.answered(), 1);
-        QCOMPARE(answerer.buttons().first(), QStringList({"Apply", "Discard", "Cancel"}));
-        QCOMPARE(o.page->applies, applies);
-        QCOMPARE(o.page->canceled, canceled);
-        QCOMPARE(o.page->hasUnsavedChanges(), !closed);
-        if (closed) {
-            QTRY_VERIFY(!o.frame);
-        } else {
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-            QVERIFY(o.frame && o.frame->isVisible());
-        }
+        page->spin->setValue(5); // closing a changed page asks first
+        answerer.escape().click("Apply");
+        page->box()->getButton(Close)->click();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(o.frame && page->hasUnsavedChanges());
+        page->box()->getButton(Close)->click();
+        QCOMPARE(answerer.buttons().last(), QStringList({"Apply", "Discard", "Cancel"}));
+        QCOMPARE(page->applies, 3);
+        QTRY_VERIFY(!o.frame);
     }
 
     void lockAndUnlock()
@@ -331,26 +267,22 @@ private Q_SLOTS:
         page->slotLock("X"); // a second holder must not overwrite the state saved by the first lock
         QCOMPARE(o.frame->windowTitle(), QString::fromUtf8("\u2022Page - READ-ONLY (X)"));
         QPushButton* readOnly = page->box()->getButton(ReadOnly);
-        QVERIFY(readOnly->isVisible());
+        QVERIFY(page->unchangeable() && readOnly->isVisible());
         QCOMPARE(readOnly->toolTip(), QString("Locked by: X"));
-        QVERIFY(page->unchangeable());
-        for (QLineEdit* e : {page->edit, page->readOnlyEdit})
-            QVERIFY(e->isReadOnly());
-        QVERIFY(page->spin->isReadOnly() && page->dateTime->isReadOnly() && page->plain->isReadOnly());
+        QVERIFY(page->edit->isReadOnly() && page->readOnlyEdit->isReadOnly() && page->spin->isReadOnly());
+        QVERIFY(page->dateTime->isReadOnly() && page->plain->isReadOnly());
         for (QWidget* w : std::initializer_list<QWidget*>{page->combo, page->check, page->slider, page->table, page->button})
             QVERIFY(!w->isEnabled());
-        QCOMPARE(page->table->property("lastEnabledState"), QVariant(true)); // handled once, as a table view
         page->slotChangesMade();
         page->spin->setValue(9);
 
         OrvTest::DialogAnswerer answerer;
         answerer.click("Ok");
         readOnly->click();
-        QCOMPARE(answerer.texts().value(0), QString("Locked by: X"));
+        QCOMPARE(answerer.texts(), QStringList("Locked by: X"));
 
         page->slotUnlock();
-        QVERIFY(!page->unchangeable());
-        QVERIFY(!readOnly->isVisible());
+        QVERIFY(!page->unchangeable() && !readOnly->isVisible());
         QCOMPARE(o.frame->windowTitle(), QString::fromUtf8("\u2022Page"));
         QVERIFY(!page->edit->isReadOnly() && !page->spin->isReadOnly() && !page->plain->isReadOnly());
         QVERIFY(page->readOnlyEdit->isReadOnly());
@@ -383,22 +315,32 @@ private Q_SLOTS:
         page->tryLockTopicNew("T", 1);
         QCOMPARE(requests.size(), 1);
 
-        QLoggingCategory::setFilterRules("qt.svg.warning=false\nOrvWidget.OrvDialog.trace.debug=true");
-        QTest::ignoreMessage(QtDebugMsg, "OrvDialog::tryLockTopicNew START, topicName='T', entityId=2");
         QTest::ignoreMessage(QtDebugMsg, "OrvDialog::tryLockTopicNew topicName='T' change from 1 to 2");
-        QTest::ignoreMessage(QtDebugMsg, "OrvDialog::tryLockTopic START");
         QTest::ignoreMessage(QtDebugMsg, QRegularExpression("entity =2, signalLockTopic isConnected=true$"));
-        QTest::ignoreMessage(QtDebugMsg, "OrvDialog::tryLockTopic END");
-        QTest::ignoreMessage(QtDebugMsg, "OrvDialog::tryLockTopicNew END");
-        page->tryLockTopicNew("T", 2);
-        QLoggingCategory::setFilterRules("qt.svg.warning=false");
+        page->tryLockTopicNew("T", 2); // another entity asks again
         QCOMPARE(requests.size(), 2);
         QCOMPARE(requests.at(1).entityId(), 2);
     }
 
-    void overlayReplace()
+    // The frame keeps its first page, tracks its size, veils it with an overlay and goes with the page.
+    void frameAndOverlay()
     {
+        const int pages = OrvDialog::objectCount();
         Opened o;
+        Page other;
+        QCOMPARE(OrvDialog::objectCount(), pages + 2);
+        o.frame->setDialog(&other); // a frame keeps its first page
+        QVERIFY(o.frame->compare(o.page) && !o.frame->compare(&other));
+
+        QSignalSpy sizes(o.frame.data(), &OrvDialogHelper::signalSizeChanged);
+        o.page->setMinimumSize(1200, 1200);
+        o.frame->resize(300, 300);
+        QCOMPARE(sizes.last().first().toSize(), QSize(300, 300));
+        QTRY_VERIFY(o.page->layout()->contentsMargins().right() != 0); // a vertical bar is shown
+        o.page->setMinimumSize(0, 0);
+        o.frame->resize(1600, 1600);
+        QTRY_COMPARE(o.page->layout()->contentsMargins(), QMargins());
+
         QPointer<QLabel> first = new QLabel("first");
         QPointer<QLabel> second = new QLabel("second");
         o.page->setOverlay(first);
@@ -418,7 +360,9 @@ private Q_SLOTS:
         QTRY_VERIFY(!veil);
 
         o.page->setOverlay(first);
-        delete o.frame.data(); // the page goes with its frame; the overlay widget stays with its owner
+        delete o.page.data(); // the frame goes with its page; the overlay widget stays with its owner
+        QTRY_VERIFY(!o.frame);
+        QCOMPARE(OrvDialog::objectCount(), pages + 1);
         QVERIFY(first && !first->parent());
         delete first.data();
     }
@@ -427,10 +371,9 @@ private Q_SLOTS:
     {
         QTest::addColumn<bool>("viaApply");
         QTest::addColumn<bool>("deleteFrame");
-        QTest::newRow("close question, page") << false << false;
-        QTest::newRow("close question, frame") << false << true;
-        QTest::newRow("requirements message, page") << true << false;
-        QTest::newRow("requirements message, frame") << true << true;
+        for (bool viaApply : {false, true})
+            for (bool frame : {false, true})
+                QTest::addRow("%s, %s", viaApply ? "apply" : "close", frame ? "frame" : "page") << viaApply << frame;
     }
     void deletePageDuringQuestion()
     {
@@ -442,12 +385,7 @@ private Q_SLOTS:
         o.page->requirements()->addRequirement(UiRequirement(o.page->label, [] { return false; }, QString()));
         o.page->edit->setText("x");
         OrvTest::DialogAnswerer answerer;
-        answerer.inspect([&](QWidget*) {
-            if (deleteFrame)
-                delete o.frame.data();
-            else
-                delete o.page.data();
-        });
+        answerer.inspect([&](QWidget*) { deleteFrame ? delete o.frame.data() : delete o.page.data(); });
         if (viaApply)
             QMetaObject::invokeMethod(o.page, "slotApply");
         else
@@ -475,51 +413,7 @@ private Q_SLOTS:
         QCOMPARE(answerer.answered(), 0);
     }
 
-    void frameRetranslateKeepsChangeState_data()
-    {
-        QTest::addColumn<bool>("changed");
-        QTest::newRow("unchanged") << false;
-        QTest::newRow("changed") << true;
-    }
-    void frameRetranslateKeepsChangeState()
-    {
-        QFETCH(bool, changed);
-        Opened o;
-        if (changed)
-            o.page->spin->setValue(5);
-        o.page->retranslateTouchesEdit = true; // re-set texts fire change signals
-        QEvent event(QEvent::LanguageChange);
-        QCoreApplication::sendEvent(o.frame, &event);
-        QCOMPARE(o.page->retranslations, 2);
-        QCOMPARE(o.page->hasUnsavedChanges(), changed);
-        QCOMPARE(o.page->box()->getButton(Close)->text(), QString("Cancel"));
-    }
-
-    void frame()
-    {
-        const int pages = OrvDialog::objectCount();
-        Opened o;
-        Page other;
-        QCOMPARE(OrvDialog::objectCount(), pages + 2);
-        QVERIFY(o.frame->testAttribute(Qt::WA_DeleteOnClose));
-        o.frame->setDialog(&other); // a frame keeps its first page
-        QVERIFY(o.frame->compare(o.page) && !o.frame->compare(&other));
-
-        QSignalSpy sizes(o.frame.data(), &OrvDialogHelper::signalSizeChanged);
-        o.page->setMinimumSize(1200, 1200);
-        o.frame->resize(300, 300);
-        QCOMPARE(sizes.last().first().toSize(), QSize(300, 300));
-        QTRY_VERIFY(o.page->layout()->contentsMargins().right() != 0); // a vertical bar is shown
-        o.page->setMinimumSize(0, 0);
-        o.frame->resize(1600, 1600);
-        QTRY_COMPARE(o.page->layout()->contentsMargins(), QMargins());
-
-        delete o.page.data();
-        QTRY_VERIFY(!o.frame);
-        QCOMPARE(OrvDialog::objectCount(), pages + 1);
-    }
-
-    void shellForwarding()
+    void shellForwardingAndHelp()
     {
         Opened o;
         QTest::ignoreMessage(QtCriticalMsg, "OrvDialog: addDialog: no base layout set - cannot add Dialog !");
@@ -540,11 +434,7 @@ private Q_SLOTS:
         QVERIFY(!o.page->amIFocused());
         shell.focused = o.page;
         QVERIFY(o.page->amIFocused());
-    }
 
-    void onlineHelp()
-    {
-        Opened o;
         QSignalSpy help(o.page.data(), &OrvDialog::signalShowOnlineHelp);
         o.page->setOnlineHelpFilename("page.html");
         o.page->setOnlineHelpFilename("page.html"); // one connection only
@@ -552,119 +442,68 @@ private Q_SLOTS:
         QCOMPARE(help, QList<QVariantList>{{QString("page.html")}});
     }
 
-    void requirementsDecorationAndSummary()
+    void requirements()
     {
-        LabelPage page;
-        QLabel* name = page.label("Name", "your name");
-        QLabel* size = page.label("Size");
-        QLabel* ok = page.label("Ok");
-        bool nameOk = false;
+        QWidget page;
+        QLabel *name = new QLabel("Name", &page), *size = new QLabel("Size", &page);
+        QLabel *hidden = new QLabel("Hidden", &page), *checked = new QLabel("Checked", &page);
+        hidden->hide(); // hidden labels count only when asked to
+        checked->hide();
+        checked->setProperty("checkMe", true);
+        name->setToolTip("your name");
+        page.show();
+        bool nameOk = false, sizeOk = false;
+        OrvTest::DialogAnswerer answerer;
         UiRequirementList list;
+        QVERIFY(list.checkRequirements(&page));
         list.addRequirement(UiRequirement(name, [&] { return nameOk; }, "enter a name"));
-        list.addRequirement(UiRequirement(size, [] { return false; }, QString()));
-        list.addRequirement(UiRequirement(ok, [] { return true; }, "never shown"));
+        list.addRequirement(UiRequirement(size, [&] { return sizeOk; }, QString()));
+        for (QLabel* l : {hidden, checked})
+            list.addRequirement(UiRequirement(l, [] { return false; }, QString()));
         list.addRequirement(UiRequirement());
+        list.retranslate(); // still decorated: nothing new to take
         QCOMPARE(name->text(), kSatisfied.arg("Name"));
         size->setToolTip("own tip");
         size->setCursor(Qt::IBeamCursor);
 
-        OrvTest::DialogAnswerer answerer;
         answerer.click("Ok");
         QVERIFY(!list.checkRequirements(&page));
-        QCOMPARE(answerer.answered(), 1); // one message for both failures
+        QCOMPARE(answerer.answered(), 1); // one message for all failures
         QCOMPARE(name->text(), kFailed.arg("Name"));
         QCOMPARE(name->toolTip(), QString("enter a name"));
         QCOMPARE(name->cursor().shape(), Qt::WhatsThisCursor);
         QCOMPARE(size->text(), kFailed.arg("Size"));
         QCOMPARE(size->toolTip(), QString("own tip")); // no warning message: tooltip and cursor untouched
         QCOMPARE(size->cursor().shape(), Qt::IBeamCursor);
-        QCOMPARE(ok->text(), kSatisfied.arg("Ok"));
+        QCOMPARE(hidden->text(), kSatisfied.arg("Hidden"));
+        QCOMPARE(checked->text(), kFailed.arg("Checked"));
+        list.retranslate(); // the red form is ours, not a translation
+        QCOMPARE(size->text(), kFailed.arg("Size"));
+        size->setText("Taille");
+        list.retranslate();
+        QCOMPARE(size->text(), kFailed.arg("Taille"));
 
         nameOk = true;
         QVERIFY(!list.checkRequirements(nullptr)); // marks, but asks nobody
-        QCOMPARE(answerer.answered(), 1);
         QCOMPARE(name->text(), kSatisfied.arg("Name"));
         QCOMPARE(name->toolTip(), QString("your name"));
         QCOMPARE(name->cursor().shape(), Qt::ArrowCursor);
-
+        sizeOk = true;
+        delete checked; // a deleted label drops out of the checks
+        QVERIFY(list.checkRequirements(&page));
+        QCOMPARE(size->text(), kSatisfied.arg("Taille"));
+        list.retranslate();
         list.clear();
         QCOMPARE(name->text(), QString("Name"));
-        QCOMPARE(size->text(), QString("Size"));
-        delete size; // the page may delete labels once their requirements are cleared
-        QVERIFY(list.checkRequirements(&page));
-    }
-
-    void requirementsHiddenLabel_data()
-    {
-        QTest::addColumn<bool>("checkMe");
-        QTest::newRow("hidden") << false;
-        QTest::newRow("hidden, checkMe") << true;
-    }
-    void requirementsHiddenLabel()
-    {
-        QFETCH(bool, checkMe);
-        LabelPage page;
-        QLabel* l = page.label("Hidden");
-        l->hide();
-        if (checkMe)
-            l->setProperty("checkMe", true);
-        UiRequirementList list;
-        list.addRequirement(UiRequirement(l, [] { return false; }, QString()));
-        QCOMPARE(list.checkRequirements(nullptr), !checkMe);
-        QCOMPARE(l->text(), checkMe ? kFailed.arg("Hidden") : kSatisfied.arg("Hidden"));
-    }
-
-    void requirementsRetranslateTakesFreshText()
-    {
-        LabelPage page;
-        QLabel* l = page.label("Name");
-        bool pass = false;
-        UiRequirementList list;
-        list.addRequirement(UiRequirement(l, [&] { return pass; }, QString()));
-        list.retranslate(); // still decorated: nothing new to take
-        QCOMPARE(l->text(), kSatisfied.arg("Name"));
-        list.checkRequirements(nullptr);
-        list.retranslate(); // the red form is ours, not a translation
-        QCOMPARE(l->text(), kFailed.arg("Name"));
-        l->setText("Nom");
-        list.retranslate();
-        QCOMPARE(l->text(), kFailed.arg("Nom"));
-        pass = true;
-        QVERIFY(list.checkRequirements(nullptr));
-        QCOMPARE(l->text(), kSatisfied.arg("Nom"));
-    }
-
-    void requirementsEmptyListAndDeletedLabel()
-    {
-        LabelPage page;
-        OrvTest::DialogAnswerer answerer;
-        UiRequirementList empty;
-        QVERIFY(empty.checkRequirements(&page));
-        QLabel* l = page.label("Gone");
-        UiRequirement requirement(l, [] { return false; }, QString());
-        UiRequirementList list;
-        list.addRequirement(requirement);
-        delete l;
-        QVERIFY(!requirement.isValid());
-        QVERIFY(list.checkRequirements(&page));
-        list.retranslate();
-        list.clear();
-        QCOMPARE(answerer.answered(), 0);
+        QCOMPARE(size->text(), QString("Taille"));
+        QCOMPARE(answerer.answered(), 1);
     }
 
     // Changing only the colour makes the page appliable; applying sends the HTML
-    // as it is and with the colour placed in the body style.
-    void textEditBackgroundColorApply_data()
-    {
-        QTest::addColumn<QString>("html");
-        QTest::newRow("empty document") << QString();
-        QTest::newRow("styled text") << "<p><span style=\"font-family:'Serif';\">text</span></p>";
-    }
+    // as it is and with the colour placed in the body style, not in the text's own.
     void textEditBackgroundColorApply()
     {
-        QFETCH(QString, html);
-        TextPage o(html);
-        QCOMPARE(o.page->windowTitle(), QStringLiteral("Edit Text"));
+        TextPage o("<p><span style=\"font-family:'Serif';\">text</span></p>");
         o.page->setInitialBackgroundColor(Qt::white);
         o.page->enableBackgroundColor(true);
         QSignalSpy colour(o.page, &OrvTextEditDialog::signalBackgroundColorChanged);
@@ -685,32 +524,132 @@ private Q_SLOTS:
         QVERIFY(!o.page->hasUnsavedChanges());
     }
 
-    void textEditTypingThenOkAppliesAndCloses()
+    // Typed text is reported; Ok applies it, Discard cancels while the page is still open. Either closes.
+    void textEditOkOrDiscard_data()
     {
+        QTest::addColumn<bool>("ok");
+        QTest::newRow("ok") << true;
+        QTest::newRow("discard") << false;
+    }
+    void textEditOkOrDiscard()
+    {
+        QFETCH(bool, ok);
         TextPage o;
         QSignalSpy changed(o.page, &OrvTextEditDialog::signalTextChanged);
         QSignalSpy applied(o.page, &OrvTextEditDialog::signalTextApplied);
-        QTest::keyClicks(o.editor->textEdit(), "ab");
-        QCOMPARE(changed.count(), 2);
-        QCOMPARE(changed.last().at(0).toString(), o.page->getHtmlText());
-        o.button(Ok)->click();
-        QVERIFY(applied.value(0).value(0).toString().contains(">ab<"));
-        QTRY_VERIFY(!o.frame);
-    }
-
-    void textEditDiscardCancelsBeforeClosing()
-    {
-        TextPage o;
-        QTest::keyClicks(o.editor->textEdit(), "x");
         QList<bool> openWhenCanceled;
         connect(o.page, &OrvTextEditDialog::signalDialogCanceled, this,
                 [&] { openWhenCanceled << (o.frame && o.frame->isVisible()); });
+        QTest::keyClicks(o.editor->textEdit(), "ab");
+        QCOMPARE(changed.count(), 2);
+        QCOMPARE(changed.last().at(0).toString(), o.page->getHtmlText());
         OrvTest::DialogAnswerer answerer;
         answerer.click("Discard");
-        o.page->closeRequest();
-        QCOMPARE(answerer.answered(), 1);
-        QCOMPARE(openWhenCanceled, QList<bool>{true});
+        ok ? o.button(Ok)->click() : o.page->closeRequest();
+        QCOMPARE(answerer.answered(), ok ? 0 : 1);
+        QCOMPARE(applied.count(), ok ? 1 : 0);
+        QVERIFY(!ok || applied.at(0).at(0).toString().contains(">ab<"));
+        QCOMPARE(openWhenCanceled, ok ? QList<bool>() : QList<bool>{true});
         QTRY_VERIFY(!o.frame);
+    }
+
+    // Each value names its own button. A live switch translates every button and the library menu
+    // but keeps texts the owner set.
+    void buttonBoxButtonsAndLanguageSwitch()
+    {
+        OrvDialogButtonBox box;
+        box.setText(Close, "Cancel");
+        box.getButton(Add)->setText("stale");
+        QSet<QPushButton*> seen;
+        QStringList english;
+        for (int value = ReadOnly; value <= _debug_; ++value) {
+            QPushButton* b = box.getButton(DialogButton(value));
+            QVERIFY(b);
+            seen.insert(b);
+            english << b->text();
+            QCOMPARE(b->shortcut(), value == Close ? QKeySequence("Ctrl+W") : QKeySequence());
+        }
+        QCOMPARE(seen.size(), 21);
+        const auto actions = box.getButton(Library)->menu()->actions();
+        QCOMPARE(actions.size(), 2);
+        QCOMPARE(actions.at(0)->text() + actions.at(1)->text(), QString("LoadSave"));
+        QSignalSpy load(&box, &OrvDialogButtonBox::signalLibraryLoadClicked);
+        QSignalSpy save(&box, &OrvDialogButtonBox::signalLibrarySaveClicked);
+        actions.at(1)->trigger();
+        QCOMPARE(load.count() * 10 + save.count(), 1);
+
+        const auto restore = qScopeGuard([] {
+            Dax::setTranslationLocale("en_GB", "orv-tests");
+            QCoreApplication::processEvents();
+        });
+        Dax::setTranslationLocale("de_DE", "orv-tests");
+        QCoreApplication::processEvents();
+        for (int value = ReadOnly; value <= _debug_; ++value) {
+            const QString text = box.getButton(DialogButton(value))->text();
+            const bool same = value == Ok || value == Help || value == _debug_ || value == Close;
+            QVERIFY2(same == (text == english.at(value)), qPrintable(text));
+        }
+        QCOMPARE(box.getButton(Close)->text(), QString("Cancel"));
+        QCOMPARE(box.getButton(Close)->shortcut(), QKeySequence("Ctrl+W"));
+        QCOMPARE(box.getButton(Add)->text(), QString("Hinzufügen"));
+        QCOMPARE(actions.at(0)->text() + actions.at(1)->text(), QString("LadenSpeichern"));
+    }
+
+    void buttonBoxVisibility_data()
+    {
+        QTest::addColumn<bool>("tablet");
+        QTest::newRow("desktop") << false;
+        QTest::newRow("tablet") << true; // never shows Print, decided when the box is made
+    }
+    // A new box shows OK and Close. An unknown value names no button: changing it does nothing,
+    // not even the STOP message.
+    void buttonBoxVisibility()
+    {
+        QFETCH(bool, tablet);
+        OrvSessionData::OrvSessionData::getInstance()->setTablet(tablet);
+        OrvDialogButtonBox box;
+        OrvSessionData::OrvSessionData::getInstance()->setTablet(false);
+        const auto unknown = DialogButton(99);
+        OrvTest::DialogAnswerer answerer;
+        box.setButtonVisible(unknown, true);
+        box.setButtonEnabled(unknown, true);
+        box.setText(unknown, "x");
+        QVERIFY(!box.isButtonVisible(unknown) && !box.isButtonEnabled(unknown));
+        QCOMPARE(answerer.answered(), 0);
+        QCOMPARE(visibleButtons(&box), QStringList({"pbClose", "pbOk"}));
+        QVERIFY(!box.isButtonVisible(Ok)); // the box itself is not shown yet
+        box.show();
+        QVERIFY(box.isButtonVisible(Ok));
+        box.setButtonVisible(Print, true);
+        QCOMPARE(box.getButton(Print)->isVisibleTo(&box), !tablet);
+    }
+
+    // OK, Apply and Close follow the page's change state: switching them from outside is a defect to
+    // report. Remove asks first and tells only on Yes.
+    void buttonBoxQuestions()
+    {
+        OrvDialogButtonBox box;
+        OrvTest::DialogAnswerer answerer;
+        int asked = 0;
+        for (DialogButton value : {Ok, Apply, Close, Add}) {
+            box.getButton(value)->setEnabled(false);
+            if (value != Add)
+                answerer.click("Ok"), ++asked;
+            box.setButtonEnabled(value, true);
+            QCOMPARE(answerer.answered(), asked);
+            QVERIFY(box.isButtonEnabled(value));
+        }
+        QVERIFY(answerer.texts().first().startsWith("<b>>>> STOP <<<</b><br><br>Hier stimmt etwas nicht."));
+        QCOMPARE(answerer.buttons().first(), QStringList("Ok"));
+
+        QSignalSpy removed(&box, &OrvDialogButtonBox::signalRemoveClicked);
+        answerer.click("No").escape().click("Yes");
+        for (int emitted : {0, 0, 1}) {
+            QVERIFY(QMetaObject::invokeMethod(&box, "slotRemoveClicked"));
+            QCOMPARE(removed.count(), emitted);
+        }
+        QCOMPARE(answerer.buttons().mid(3), QList<QStringList>(3, QStringList({"Yes", "No"})));
+        QVERIFY(answerer.texts().last().contains("Are you sure you want to delete the selected entry(ies)?"));
     }
 };
 

@@ -24,8 +24,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("asked");
         QTest::addColumn<bool>("granted");
         QTest::newRow("right 0 without rights") << 0 << 0 << true;
-        QTest::newRow("missing") << 0 << 4 << false;
-        QTest::newRow("exact") << 4 << 4 << true;
         QTest::newRow("superset") << 7 << 5 << true;
         QTest::newRow("partial") << 1 << 3 << false;
         QTest::newRow("negative mask") << -1 << 0x40000000 << true;
@@ -34,16 +32,14 @@ private Q_SLOTS:
     {
         QFETCH(int, held);
         QFETCH(int, asked);
-        QFETCH(bool, granted);
         Session::getInstance()->setOperatorRights(held);
-        QCOMPARE(Session::getInstance()->hasOperatorRight(asked), granted);
+        QTEST(Session::getInstance()->hasOperatorRight(asked), "granted");
         Session::getInstance()->setOperatorRights(0);
     }
 
     void tablet()
     {
         auto* session = Session::getInstance();
-        QVERIFY(!session->isTablet());
         QSignalSpy spy(session, &Session::tabletChanged);
         session->setTablet(true);
         session->setTablet(true);
@@ -52,7 +48,8 @@ private Q_SLOTS:
         session->setTablet(false);
     }
 
-    void settingsRoundTrip()
+    // Values persist per file; a corrupt file gives defaults.
+    void settings()
     {
         QTemporaryDir dir;
         const QString path = dir.filePath("operator.ini");
@@ -60,46 +57,34 @@ private Q_SLOTS:
             OrvUtils::Settings settings(path);
             QCOMPARE(settings.value("TimeSettings", "Offset", 42).toInt(), 42); // missing file: default
             settings.setValue("TimeSettings", "Offset", 3600000);
-            settings.setValue("TimeSettings", "FixedTime", QStringLiteral("2026-11-14T15:30:00Z"));
             settings.setValue("", "topLevel", true);
             settings.remove("TimeSettings", "Nothing");
         }
         OrvUtils::Settings reread(path);
         QCOMPARE(reread.value("TimeSettings", "Offset").toLongLong(), 3600000);
-        QCOMPARE(reread.value("TimeSettings", "FixedTime").toString(), QStringLiteral("2026-11-14T15:30:00Z"));
         QCOMPARE(reread.value("", "topLevel").toBool(), true);
         reread.remove("TimeSettings", "Offset");
         QVERIFY(!reread.value("TimeSettings", "Offset").isValid());
-        QCOMPARE(reread.fileName(), path);
-    }
 
-    void settingsRedirect()
-    {
-        QTemporaryDir dir;
-        auto* settings = OrvUtils::ProjectSettings::getInstance();
-        QVERIFY(static_cast<void*>(settings) != static_cast<void*>(OrvUtils::OperatorSettings::getInstance()));
-        settings->setFileName(dir.filePath("a.ini"));
-        settings->setValue("exm", "enableEditPhases", true);
-        settings->setFileName(dir.filePath("b.ini"));
-        QVERIFY(!settings->value("exm", "enableEditPhases").isValid());
-        settings->setFileName(dir.filePath("a.ini"));
-        QCOMPARE(settings->value("exm", "enableEditPhases").toBool(), true);
-    }
+        // The project file is its own and follows setFileName.
+        auto* project = OrvUtils::ProjectSettings::getInstance();
+        QVERIFY(static_cast<void*>(project) != static_cast<void*>(OrvUtils::OperatorSettings::getInstance()));
+        project->setFileName(dir.filePath("a.ini"));
+        project->setValue("exm", "enableEditPhases", true);
+        project->setFileName(dir.filePath("b.ini"));
+        QVERIFY(!project->value("exm", "enableEditPhases").isValid());
+        project->setFileName(dir.filePath("a.ini"));
+        QCOMPARE(project->value("exm", "enableEditPhases").toBool(), true);
 
-    void corruptSettingsGiveDefaults()
-    {
-        QTemporaryDir dir;
-        const QString path = dir.filePath("broken.ini");
-        QFile file(path);
+        QFile file(dir.filePath("broken.ini"));
         QVERIFY(file.open(QIODevice::WriteOnly));
         file.write("[TimeSettings\nOffset=5\n\xff\xfe\x00garbage=\"\n[[[\n");
         file.close();
-        OrvUtils::Settings settings(path);
+        OrvUtils::Settings broken(file.fileName());
         QTest::ignoreMessage(QtWarningMsg, QRegularExpression("corrupt settings file"));
-        QCOMPARE(settings.value("TimeSettings", "Offset", 7).toInt(), 7);
-        // Writing starts afresh.
-        settings.setValue("TimeSettings", "Offset", 9);
-        QCOMPARE(settings.value("TimeSettings", "Offset", 7).toInt(), 9);
+        QCOMPARE(broken.value("TimeSettings", "Offset", 7).toInt(), 7);
+        broken.setValue("TimeSettings", "Offset", 9); // writing starts afresh
+        QCOMPARE(broken.value("TimeSettings", "Offset", 7).toInt(), 9);
     }
 
     void loggerChildren()
@@ -108,9 +93,7 @@ private Q_SLOTS:
         Dax::Logger& a = root.child("OrvWidget.OrvDialog");
         QCOMPARE(&a, &root.child("OrvWidget.OrvDialog"));
         QVERIFY(&a != &root.child("OrvWidget.Other"));
-        QCOMPARE(a.name(), QStringLiteral("OrvWidget.OrvDialog"));
-        QVERIFY(a.isWarnEnabled());
-        QVERIFY(a.isDebugEnabled());
+        QVERIFY(a.isWarnEnabled() && a.isDebugEnabled());
         QVERIFY(!a.isTraceEnabled()); // trace is opt-in through logging rules
         QTest::ignoreMessage(QtWarningMsg, "a warning");
         a.warn("a warning");
@@ -118,21 +101,19 @@ private Q_SLOTS:
         a.debug("a debug line");
         a.trace("not printed");
         QLoggingCategory::setFilterRules("OrvWidget.OrvDialog.trace.debug=true\nOrvWidget.OrvDialog.debug=false");
-        QVERIFY(a.isTraceEnabled());
-        QVERIFY(!a.isDebugEnabled());
+        QVERIFY(a.isTraceEnabled() && !a.isDebugEnabled());
         QTest::ignoreMessage(QtDebugMsg, "a trace line");
         a.trace("a trace line");
         a.debug("suppressed");
         QLoggingCategory::setFilterRules(QString());
     }
 
+    // Whether the widget library and its translation load depends on the linker
+    // here; the widget tests check the translated texts.
     void translationLocale()
     {
         QCOMPARE(Dax::translationLocale(), QByteArray("en_GB"));
-        // Whether the widget library (and its translation) is loaded depends on the
-        // linker here; the widget tests check the translated texts.
         Dax::setTranslationLocale("de_DE", "nothing-here");
-        QCOMPARE(Dax::translationLocale(), QByteArray("de_DE"));
         QCOMPARE(QLocale().name(), QStringLiteral("de_DE"));
         QTest::ignoreMessage(QtWarningMsg, "Dax::setTranslationLocale: empty locale ignored");
         Dax::setTranslationLocale("", "nothing-here");
@@ -146,14 +127,10 @@ private Q_SLOTS:
         QTest::addColumn<char>("zone");
         QTest::addColumn<bool>("valid");
         QTest::addColumn<int>("hours");
-        const char* east = "ABCDEFGHI";
-        for (int i = 0; i < 9; ++i)
-            QTest::addRow("%c", east[i]) << east[i] << true << i + 1;
-        for (char c : {'K', 'L', 'M'})
-            QTest::addRow("%c", c) << c << true << c - 'K' + 10;
-        const char* west = "NOPQRSTUVWXY";
-        for (int i = 0; i < 12; ++i)
-            QTest::addRow("%c", west[i]) << west[i] << true << -(i + 1);
+        for (int i = 0; i < 12; ++i) {
+            QTest::addRow("%c", "ABCDEFGHIKLM"[i]) << "ABCDEFGHIKLM"[i] << true << i + 1;
+            QTest::addRow("%c", "NOPQRSTUVWXY"[i]) << "NOPQRSTUVWXY"[i] << true << -(i + 1);
+        }
         QTest::newRow("Z") << 'Z' << true << 0;
         QTest::newRow("J is local time, no letter") << 'J' << false << 0;
         for (char c : {'a', 'z', '1', '\0', '@', '['})
@@ -169,56 +146,46 @@ private Q_SLOTS:
         QCOMPARE(ok, valid);
         QCOMPARE(DTG::isTimezoneValid(zone), valid);
         QCOMPARE(DTG::timezone2Secs(zone, nullptr), hours * 3600); // null ok pointer is allowed
+        if (!valid)
+            QTest::ignoreMessage(QtWarningMsg, QRegularExpression("DTG::setTimezone: invalid zone letter"));
+        DTG::setTimezone(zone);
+        QCOMPARE(DTG::timezone(), valid ? zone : 'Z');
     }
 
     void dtgFormats_data()
     {
+        QTest::addColumn<QDateTime>("instant");
         QTest::addColumn<int>("format");
         QTest::addColumn<int>("type");
         QTest::addColumn<char>("zone");
         QTest::addColumn<QString>("expected");
-        // 2026-11-14 15:30:07 UTC
-        QTest::newRow("short zulu") << int(DTG::eShort) << int(DTG::eZulu) << 'B' << "141530Z";
-        QTest::newRow("short seconds") << int(DTG::eShortSeconds) << int(DTG::eZulu) << 'Z' << "14153007Z";
-        QTest::newRow("long") << int(DTG::eLong) << int(DTG::eZulu) << 'Z' << "141530Z NOV 26";
-        QTest::newRow("long seconds") << int(DTG::eLongSeconds) << int(DTG::eZulu) << 'Z' << "14153007Z NOV 26";
-        QTest::newRow("local B +1") << int(DTG::eShort) << int(DTG::eLocalZone) << 'B' << "141730B";
-        QTest::newRow("local M +12 next day") << int(DTG::eLong) << int(DTG::eLocalZone) << 'M' << "150330M NOV 26";
-        QTest::newRow("local Y -12") << int(DTG::eLongSeconds) << int(DTG::eLocalZone) << 'Y' << "14033007Y NOV 26";
-        QTest::newRow("local Z") << int(DTG::eShort) << int(DTG::eLocalZone) << 'Z' << "141530Z";
+        using namespace DTG;
+        const QDateTime t(QDate(2026, 11, 14), QTime(15, 30, 7), Qt::UTC);
+        QTest::newRow("short zulu") << t << int(eShort) << int(eZulu) << 'B' << "141530Z";
+        QTest::newRow("short seconds") << t << int(eShortSeconds) << int(eZulu) << 'Z' << "14153007Z";
+        QTest::newRow("long") << t << int(eLong) << int(eZulu) << 'Z' << "141530Z NOV 26";
+        QTest::newRow("long seconds") << t << int(eLongSeconds) << int(eZulu) << 'Z' << "14153007Z NOV 26";
+        QTest::newRow("local B +1") << t << int(eShort) << int(eLocalZone) << 'B' << "141730B";
+        QTest::newRow("local M +12 next day") << t << int(eLong) << int(eLocalZone) << 'M' << "150330M NOV 26";
+        QTest::newRow("local Y -12") << t << int(eLongSeconds) << int(eLocalZone) << 'Y' << "14033007Y NOV 26";
+        const QDateTime newYear(QDate(2027, 1, 1), QTime(0, 30), Qt::UTC);
+        QTest::newRow("local N back a year") << newYear << int(eLong) << int(eLocalZone) << 'N' << "312330N DEC 26";
     }
     void dtgFormats()
     {
+        QFETCH(QDateTime, instant);
         QFETCH(int, format);
         QFETCH(int, type);
         QFETCH(char, zone);
         QFETCH(QString, expected);
         DTG::setTimezone(zone);
-        const QDateTime instant(QDate(2026, 11, 14), QTime(15, 30, 7), Qt::UTC);
-        QCOMPARE(DTG::toString(instant, DTG::DisplayFormat(format), DTG::DateTimeType(type)), expected);
+        const auto f = DTG::DisplayFormat(format);
+        QCOMPARE(DTG::toString(QDateTime(), f, DTG::DateTimeType(type)), QString());
+        QCOMPARE(DTG::toString(instant, f, DTG::DateTimeType(type)), expected);
         // A local-time input describes the same instant.
-        QCOMPARE(DTG::toString(instant.toOffsetFromUtc(-5 * 3600), DTG::DisplayFormat(format),
-                               DTG::DateTimeType(type)),
-                 expected);
+        QCOMPARE(DTG::toString(instant.toOffsetFromUtc(-5 * 3600), f, DTG::DateTimeType(type)), expected);
         DTG::setDateTimeType(DTG::DateTimeType(type));
-        QCOMPARE(DTG::toStringMSec(instant.toMSecsSinceEpoch(), DTG::DisplayFormat(format)), expected);
-    }
-
-    void dtgYearBoundary()
-    {
-        DTG::setTimezone('N');
-        const QDateTime newYear(QDate(2027, 1, 1), QTime(0, 30), Qt::UTC);
-        QCOMPARE(DTG::toString(newYear, DTG::eLong, DTG::eLocalZone), QStringLiteral("312330N DEC 26"));
-        QCOMPARE(DTG::toString(QDateTime(), DTG::eLong, DTG::eZulu), QString());
-    }
-
-    void dtgInvalidZoneIsRefused()
-    {
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("DTG::setTimezone: invalid zone letter"));
-        DTG::setTimezone('J');
-        QCOMPARE(DTG::timezone(), 'Z');
-        DTG::setTimezone('Q');
-        QCOMPARE(DTG::timezone(), 'Q');
+        QCOMPARE(DTG::toStringMSec(instant.toMSecsSinceEpoch(), f), expected);
     }
 };
 

@@ -4,12 +4,11 @@
 #include <QImageReader>
 #include <QSvgRenderer>
 
-// Checks the embedded resource collection: every name the widgets and the
-// applications rely on is present and holds a usable asset.
+using namespace OrvWidgets;
 
 namespace {
 
-enum class Kind { Svg, Png, Ico, Wav, Text };
+enum class Kind { Svg, Image, Wav, Text };
 
 struct WavInfo
 {
@@ -59,23 +58,39 @@ double coverage(QSvgRenderer& renderer, int size)
     return double(painted) / (size * size);
 }
 
-const char* const kSounds[] = {":/beep.wav", ":/DMF.wav", ":/entryNew.wav", ":/leaveNew.wav",
-                               ":/warningrange-enter.wav", ":/warningrange-leave.wav",
-                               ":/effectarea-enter.wav", ":/effectarea-leave.wav"};
+// Describes the link and save-image events that reach the application object.
+struct EventRecorder : QObject
+{
+    EventRecorder() { qApp->installEventFilter(this); } // a destroyed filter removes itself
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        const QString accepted = event->isAccepted() ? "accepted " : "";
+        if (watched == qApp && event->type() == OrvLinkEvent::eventTypeId()) {
+            const auto* link = static_cast<OrvLinkEvent*>(event);
+            seen << accepted + link->url().toString() + (link->sourceBaseLayoutWidget() ? " from source" : "");
+        } else if (watched == qApp && event->type() == SaveImageEvent::saveImageEventId()) {
+            const auto* save = static_cast<SaveImageEvent*>(event);
+            seen << accepted + QString("image %1x%2").arg(save->pixmap().width()).arg(save->pixmap().height())
+                        + (save->widget() ? " from source" : "");
+        }
+        return false;
+    }
+    QStringList seen;
+};
 
 } // namespace
 
 Q_DECLARE_METATYPE(Kind)
 
-class TestOrvResources : public QObject
+class TestFoundation : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    // Every name the widgets and the applications rely on is present and holds a usable asset.
     void resource_data()
     {
         QTest::addColumn<Kind>("kind");
         QTest::addColumn<QSize>("size"); // expected pixel size; for SVGs only whether it is square
-
         const QSize square(1, 1), any;
         for (const char* name : {":/success.svg", ":/error.svg", ":/warning.svg", ":/info.svg", ":/ack.svg",
                                  ":/ack_dark.svg", ":/close.svg", ":/close_dark.svg",
@@ -85,29 +100,23 @@ private Q_SLOTS:
         for (const char* style : {"warning", "dialog-ok", "dialog-close", "media-vcr-nopause",
                                   "show_building_configuration", "document-new", "help_index", "document-edit",
                                   "import_documents", "export_documents", "filter_map_settings", "center_to_object",
-                                  "zoom_map_to", "library", "freq_plan", "library_load", "library_save"}) {
-            const QByteArray name = QByteArray(QByteArray(":/style/") + style + ".svg");
-            QTest::newRow(name.constData()) << Kind::Svg << square;
-        }
-
-        QTest::newRow(":/kiv_icon_256.png") << Kind::Png << QSize(256, 256);
-        QTest::newRow(":/kiv_logo.png") << Kind::Png << QSize(128, 128);
-        QTest::newRow(":/kiv_komplett.png") << Kind::Png << QSize(480, 200);
-        QTest::newRow(":/kiv_internal_dds_logo_256x256.png") << Kind::Png << QSize(256, 256);
-        for (const char* flag : {":/Germany-Flag.png", ":/Great-Britain-Flag.png", ":/US-Flag.png",
-                                 ":/European-Union-Flag.png"})
-            QTest::newRow(flag) << Kind::Png << QSize(96, 64);
-        QTest::newRow(":/stylesheet-branch-closed.png") << Kind::Png << QSize(16, 16);
-        QTest::newRow(":/stylesheet-branch-open.png") << Kind::Png << QSize(16, 16);
-        QTest::newRow(":/ScriptEditor-Changelog-1.png") << Kind::Png << QSize(480, 300);
-        QTest::newRow(":/kiv_internal_dds_logo_256x256.ico") << Kind::Ico << QSize(256, 256);
-
-        for (const char* sound : kSounds)
+                                  "zoom_map_to", "library", "freq_plan", "library_load", "library_save"})
+            QTest::addRow(":/style/%s.svg", style) << Kind::Svg << square;
+        const std::pair<const char*, QSize> images[] = {
+            {":/kiv_icon_256.png", {256, 256}}, {":/kiv_logo.png", {128, 128}}, {":/kiv_komplett.png", {480, 200}},
+            {":/kiv_internal_dds_logo_256x256.png", {256, 256}}, {":/ScriptEditor-Changelog-1.png", {480, 300}},
+            {":/Germany-Flag.png", {96, 64}}, {":/Great-Britain-Flag.png", {96, 64}}, {":/US-Flag.png", {96, 64}},
+            {":/European-Union-Flag.png", {96, 64}}, {":/stylesheet-branch-closed.png", {16, 16}},
+            {":/stylesheet-branch-open.png", {16, 16}}, {":/kiv_internal_dds_logo_256x256.ico", {256, 256}}};
+        for (const auto& [name, size] : images)
+            QTest::newRow(name) << Kind::Image << size;
+        for (const char* sound : {":/beep.wav", ":/DMF.wav", ":/entryNew.wav", ":/leaveNew.wav",
+                                  ":/warningrange-enter.wav", ":/warningrange-leave.wav", ":/effectarea-enter.wav",
+                                  ":/effectarea-leave.wav"})
             QTest::newRow(sound) << Kind::Wav << any;
         QTest::newRow(":/start.html") << Kind::Text << any;
         QTest::newRow(":/scripts.js") << Kind::Text << any;
     }
-
     void resource()
     {
         QFETCH(Kind, kind);
@@ -131,24 +140,10 @@ private Q_SLOTS:
             }
             break;
         }
-        case Kind::Png: {
-            QCOMPARE(QImageReader(name).format(), QByteArray("png"));
-            const QImage image(name);
-            QVERIFY(!image.isNull());
-            QCOMPARE(image.size(), size);
-            break;
-        }
-        case Kind::Ico: {
-            // Icon directory header: reserved 0, type 1 (icon), at least one entry.
-            QCOMPARE(qFromLittleEndian<quint16>(data.constData()), quint16(0));
-            QCOMPARE(qFromLittleEndian<quint16>(data.constData() + 2), quint16(1));
-            const int count = qFromLittleEndian<quint16>(data.constData() + 4);
-            QVERIFY(count > 0);
-            QVERIFY(data.size() > 6 + 16 * count);
-            if (!QImageReader::supportedImageFormats().contains("ico"))
-                break;
-            QImageReader reader(name, "ico");
-            QCOMPARE(reader.imageCount(), count);
+        case Kind::Image: { // judged by content, not by name
+            QImageReader reader(name);
+            reader.setDecideFormatFromContent(true);
+            QCOMPARE(reader.format(), QFileInfo(name).suffix().toLatin1());
             const QImage image = reader.read();
             QVERIFY2(!image.isNull(), qPrintable(reader.errorString()));
             QCOMPARE(image.size(), size);
@@ -159,23 +154,15 @@ private Q_SLOTS:
             QVERIFY(wav.sampleRate == 22050 || wav.sampleRate == 44100);
             QVERIFY2(wav.seconds >= 0.05 && wav.seconds <= 0.8, qPrintable(QString::number(wav.seconds)));
             QVERIFY2(wav.peak > 8000 && wav.peak < 32767, "audible and not clipped");
+            static QSet<QByteArray> sounds;
+            QVERIFY2(!sounds.contains(data.mid(44)), "a copy of another sound");
+            sounds.insert(data.mid(44));
             break;
         }
         case Kind::Text:
             QVERIFY(QString::fromUtf8(data).trimmed().size() > 100);
             break;
         }
-    }
-
-    void soundsAreDistinct()
-    {
-        QSet<QByteArray> seen;
-        for (const char* sound : kSounds) {
-            QFile file(QString::fromLatin1(sound));
-            QVERIFY(file.open(QIODevice::ReadOnly));
-            seen.insert(file.readAll().mid(44));
-        }
-        QCOMPARE(seen.size(), int(std::size(kSounds)));
     }
 
     // The start page loads its scripts; those taken from system packages are
@@ -203,27 +190,50 @@ private Q_SLOTS:
         const QStringList paths = QDir::searchPaths(QStringLiteral("icon"));
         QCOMPARE(paths.count(QStringLiteral(":/icon")), 1);                 // once, despite two application objects
         QVERIFY(paths.contains(QStringLiteral(":/test-application-icons"))); // the application's own path is kept
-        QVERIFY(QFile::exists(QStringLiteral("icon:no_pic.svg")));
         QVERIFY(QSvgRenderer(QStringLiteral("icon:no_pic.svg")).isValid());
         QVERIFY(!QPixmap(QStringLiteral("icon:warning.svg")).isNull());
+    }
+
+    // Each event registers its own type once and carries it.
+    void eventTypesAreStableAndDistinct()
+    {
+        const QList<int> types = {OrvLinkEvent(QUrl(), nullptr).type(), SaveImageEvent(nullptr, QPixmap()).type(),
+                                  SetMarkerEvent("m").type(),           AddMarkerEvent().type(),
+                                  AddSnapshotEvent().type(),            SaveSnapshotEvent("s").type()};
+        QCOMPARE(types, (QList<int>{OrvLinkEvent::eventTypeId(), SaveImageEvent::saveImageEventId(),
+                                    SetMarkerEvent::setMarkerEventId(), AddMarkerEvent::addMarkerEventId(),
+                                    AddSnapshotEvent::addSnapshotEventId(), SaveSnapshotEvent::saveSnapshotEventId()}));
+        QCOMPARE(QSet<int>(types.begin(), types.end()).size(), 6);
+        QVERIFY(*std::min_element(types.begin(), types.end()) >= QEvent::User);
+    }
+
+    // Posted events arrive unaccepted; a link whose source is gone by then names none.
+    void postedEvents()
+    {
+        QWidget page;
+        page.resize(40, 30);
+        auto* shell = new QWidget;
+        EventRecorder recorder;
+        postToApplication(new OrvLinkEvent(QUrl(QStringLiteral("orv://NotificationAck/%1").arg(42)), shell));
+        postToApplication(nullptr); // ignored
+        postToApplication(new SaveImageEvent(&page, page.grab()));
+        delete shell;
+        QCoreApplication::sendPostedEvents(qApp);
+        QCOMPARE(recorder.seen, QStringList({"orv://notificationack/42", "image 40x30 from source"}));
     }
 };
 
 int main(int argc, char** argv)
 {
-    // Keeps the library linked in even though only its resources are used.
-    volatile auto keepLinked = &OrvWidgets::OrvLinkEvent::eventTypeId;
-    Q_UNUSED(keepLinked);
-
     // An application may register its own "icon" folder before its application object exists.
     QDir::addSearchPath(QStringLiteral("icon"), QStringLiteral(":/test-application-icons"));
     {
         QCoreApplication first(argc, argv); // startup functions run for every application object
     }
-    QGuiApplication app(argc, argv);
-    TestOrvResources test;
+    QApplication app(argc, argv);
+    TestFoundation test;
     QTEST_SET_MAIN_SOURCE_PATH
     return QTest::qExec(&test, argc, argv);
 }
 
-#include "tst_orv_resources.moc"
+#include "tst_foundation.moc"
