@@ -480,12 +480,14 @@ private Q_SLOTS:
         list.retranslate(); // the red form is ours, not a translation
         QCOMPARE(size->text(), kFailed.arg("Size"));
         size->setText("Taille");
+        name->setText("Nom"); // a new language while the warning shows: the label keeps its own tooltip
         list.retranslate();
         QCOMPARE(size->text(), kFailed.arg("Taille"));
+        QCOMPARE(name->toolTip(), QString("enter a name"));
 
         nameOk = true;
         QVERIFY(!list.checkRequirements(nullptr)); // marks, but asks nobody
-        QCOMPARE(name->text(), kSatisfied.arg("Name"));
+        QCOMPARE(name->text(), kSatisfied.arg("Nom"));
         QCOMPARE(name->toolTip(), QString("your name"));
         QCOMPARE(name->cursor().shape(), Qt::ArrowCursor);
         sizeOk = true;
@@ -494,7 +496,7 @@ private Q_SLOTS:
         QCOMPARE(size->text(), kSatisfied.arg("Taille"));
         list.retranslate();
         list.clear();
-        QCOMPARE(name->text(), QString("Name"));
+        QCOMPARE(name->text(), QString("Nom"));
         QCOMPARE(size->text(), QString("Taille"));
         QCOMPARE(answerer.answered(), 1);
     }

@@ -69,7 +69,10 @@ void UiRequirement::retranslate()
     if (current.startsWith(decoratedPrefix()) || (!m_originalText.isEmpty() && current == failedText(m_originalText)))
         return;
     m_originalText = current;
-    m_originalTooltip = m_descriptionLabel->toolTip();
+    // Nor is the warning we show on a failed label: that label keeps its own tooltip.
+    const QString tooltip = m_descriptionLabel->toolTip();
+    if (m_lastResult || m_userWarningMessage.isEmpty() || tooltip != m_userWarningMessage)
+        m_originalTooltip = tooltip;
     setTexts();
 }
 
