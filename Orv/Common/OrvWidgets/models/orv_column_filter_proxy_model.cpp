@@ -2,7 +2,6 @@
 #include "orv_column_filter_proxy_model_p.h"
 
 #include <QAbstractItemModel>
-#include <QtAlgorithms>
 
 #include <cmath>
 #include <cstring>
@@ -236,25 +235,6 @@ void OrvColumnFilterProxyModelPrivate::forgetRanks()
     rankColumn = -1;
     ranksRefused = false;
     keyComparisons = 0;
-    acceptedRanksValid = false;
-    rankComparisons = 0;
-}
-
-void OrvColumnFilterProxyModelPrivate::copyAcceptedRanks()
-{
-    // Bits past the ranked rows stay clear: those rows compare by their ranks.
-    const size_t words = (ranks.size() + 63) >> 6;
-    acceptedBits.resize(words, 0);
-    if (ranks.size() & 63)
-        acceptedBits[words - 1] &= (quint64(1) << (ranks.size() & 63)) - 1;
-    acceptedBefore.resize(words);
-    acceptedRanks.clear();
-    for (size_t word = 0; word < words; ++word) {
-        acceptedBefore[word] = quint32(acceptedRanks.size());
-        for (quint64 bits = acceptedBits[word]; bits; bits &= bits - 1)
-            acceptedRanks.push_back(ranks[(word << 6) + size_t(qCountTrailingZeroBits(bits))]);
-    }
-    acceptedRanksValid = true;
 }
 
 const QString& OrvColumnFilterProxyModelPrivate::filterText(const QAbstractItemModel* model,
@@ -431,8 +411,6 @@ bool OrvColumnFilterProxyModelPrivate::buildRanks(const QAbstractItemModel* mode
         assign(numbers, sameNumber);
     }
     rankColumn = column;
-    acceptedRanksValid = false;
-    rankComparisons = 0;
     return true;
 }
 
@@ -461,7 +439,6 @@ void OrvColumnFilterProxyModel::setSourceModel(QAbstractItemModel* model)
     d->sourceConnections.clear();
     d->model = model;
     d->ranks.clear();
-    d->acceptedBits.clear();
     d->forgetRejected();
     d->forgetSortKeys();
     d->forgetTexts();
@@ -530,12 +507,12 @@ bool OrvColumnFilterProxyModel::lessThan(const QModelIndex& left, const QModelIn
         const int rightRow = right.row();
         const std::vector<quint32>& ranks = d->ranks;
         if (column == d->rankColumn && size_t(leftRow) < ranks.size() && size_t(rightRow) < ranks.size())
-            return d->rankLess(leftRow, rightRow);
+            return ranks[size_t(leftRow)] < ranks[size_t(rightRow)];
         d->prepareSortKeys(model, column, std::max(leftRow, rightRow));
         // Ranking every row costs about as much as a few comparisons per row.
         if (!d->ranksRefused && ++d->keyComparisons > 2 * quint64(d->sortKeys.size())
             && d->buildRanks(model, column) && size_t(std::max(leftRow, rightRow)) < ranks.size()) {
-            return d->rankLess(leftRow, rightRow);
+            return ranks[size_t(leftRow)] < ranks[size_t(rightRow)];
         }
         const quint64 a = d->sortKey(model, leftRow, column);
         const quint64 b = d->sortKey(model, rightRow, column);
@@ -676,12 +653,7 @@ void OrvColumnFilterProxyModel::filtersChanged(bool narrowed)
 bool OrvColumnFilterProxyModel::filterAcceptsRow(int sourceRow, const QModelIndex& sourceParent) const
 {
     const QAbstractItemModel* model = d->model;
-    if (!model)
-        return true;
-    const bool accepted = d->accepts(model, sourceRow, sourceParent);
-    if (!sourceParent.isValid())
-        d->noteAccepted(sourceRow, accepted);
-    return accepted;
+    return !model || d->accepts(model, sourceRow, sourceParent);
 }
 
 bool OrvColumnFilterProxyModelPrivate::accepts(const QAbstractItemModel* model, int sourceRow,

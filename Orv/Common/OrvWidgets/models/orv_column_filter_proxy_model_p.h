@@ -105,57 +105,6 @@ public:
     bool ranksRefused = false;  // this column's values cannot be ranked
     quint64 keyComparisons = 0; // made without ranks since the data changed
 
-    // Top-level rows the filters accepted when last asked, one bit each. A
-    // sort compares accepted rows only; their ranks copied side by side take
-    // a fraction of the memory of all ranks, so the comparisons stay in cache
-    // (a rank read from all rows' ranks is a cache miss on large tables). The
-    // copy is valid until a bit or the ranks change.
-    std::vector<quint64> acceptedBits;
-    std::vector<quint32> acceptedBefore; // accepted rows before each word of bits
-    std::vector<quint32> acceptedRanks;
-    bool acceptedRanksValid = false;
-    quint64 rankComparisons = 0; // since the accepted rows or the ranks changed
-    void noteAccepted(int row, bool accepted)
-    {
-        const size_t word = size_t(row) >> 6;
-        const quint64 bit = quint64(1) << (row & 63);
-        if (word >= acceptedBits.size()) {
-            if (!accepted)
-                return;
-            acceptedBits.resize(word + 1, 0);
-        }
-        if (bool(acceptedBits[word] & bit) != accepted) {
-            acceptedBits[word] ^= bit;
-            acceptedRanksValid = false;
-            rankComparisons = 0;
-        }
-    }
-    void copyAcceptedRanks();
-    // Inline: without a CPU-specific build the intrinsic is a library call.
-    static quint32 bitCount(quint64 x)
-    {
-        x -= (x >> 1) & 0x5555555555555555ull;
-        x = (x & 0x3333333333333333ull) + ((x >> 2) & 0x3333333333333333ull);
-        x = (x + (x >> 4)) & 0x0F0F0F0F0F0F0F0Full;
-        return quint32((x * 0x0101010101010101ull) >> 56);
-    }
-    bool rankLess(int left, int right)
-    {
-        if (acceptedRanksValid) {
-            const quint64 leftWord = acceptedBits[size_t(left) >> 6];
-            const quint64 rightWord = acceptedBits[size_t(right) >> 6];
-            const quint64 leftBit = quint64(1) << (left & 63);
-            const quint64 rightBit = quint64(1) << (right & 63);
-            if ((leftWord & leftBit) && (rightWord & rightBit)) {
-                return acceptedRanks[acceptedBefore[size_t(left) >> 6] + bitCount(leftWord & (leftBit - 1))]
-                       < acceptedRanks[acceptedBefore[size_t(right) >> 6] + bitCount(rightWord & (rightBit - 1))];
-            }
-        } else if (++rankComparisons > acceptedBits.size()) {
-            copyAcceptedRanks(); // costs about one comparison per word of bits
-        }
-        return ranks[size_t(left)] < ranks[size_t(right)];
-    }
-
     // The source model, read on every comparison (sourceModel() is a property read).
     const QAbstractItemModel* model = nullptr;
     std::vector<QMetaObject::Connection> sourceConnections;
