@@ -3,20 +3,61 @@
 
 set(ORV_PCH_HEADERS <QtCore/QtCore> <QtGui/QtGui> <QtWidgets/QtWidgets>)
 
+# orv_add_layer(<library> <name> [ABOVE <layer> ...])
+# One object library per subsystem folder of <library>. It sees the headers of its
+# own folder and of the layers it sits above (transitively), nothing higher, so an
+# include that reaches upwards fails to compile. The objects end up in <library>;
+# <library>_base carries what every layer needs (export header, Qt, the platform).
+function(orv_add_layer library name)
+    cmake_parse_arguments(ARG "" "" "ABOVE" ${ARGN})
+    set(layer ${library}_${name})
+    add_library(${layer} OBJECT)
+    set_target_properties(${layer} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    # The export macro must export while the shared library's objects are compiled.
+    target_compile_definitions(${layer} PRIVATE ${library}_EXPORTS)
+    target_link_libraries(${layer} PUBLIC ${library}_base)
+    foreach(lower IN LISTS ARG_ABOVE)
+        target_link_libraries(${layer} PUBLIC ${library}_${lower})
+    endforeach()
+    # All layers share one precompiled header, owned by the first.
+    get_property(first GLOBAL PROPERTY ORV_FIRST_LAYER_${library})
+    if(first)
+        orv_target_defaults(${layer} PCH_FROM ${first})
+    else()
+        set_property(GLOBAL PROPERTY ORV_FIRST_LAYER_${library} ${layer})
+        orv_target_defaults(${layer})
+    endif()
+    target_sources(${library} PRIVATE $<TARGET_OBJECTS:${layer}>)
+endfunction()
+
 # orv_add_sources(<target> [SOURCES ...] [PUBLIC_HEADERS ...] [PRIVATE_HEADERS ...] [FORMS ...])
-# Adds files of the calling folder to <target>, makes the folder an include
-# directory (so "#include <orv_dialog.h>" works in the build tree) and records
-# public headers for installation and the umbrella header.
+# Adds files of the calling folder to <target>, or to its layer <target>_<folder>
+# where one exists, makes the folder an include directory (so "#include <orv_dialog.h>"
+# works in the build tree) and records public headers for installation and the
+# umbrella header, and every file for the translation scan.
 function(orv_add_sources target)
     cmake_parse_arguments(ARG "" "" "SOURCES;PUBLIC_HEADERS;PRIVATE_HEADERS;FORMS;RESOURCES" ${ARGN})
     set(all ${ARG_SOURCES} ${ARG_PUBLIC_HEADERS} ${ARG_PRIVATE_HEADERS} ${ARG_FORMS} ${ARG_RESOURCES})
-    if(all)
-        target_sources(${target} PRIVATE ${all})
+    get_filename_component(folder "${CMAKE_CURRENT_SOURCE_DIR}" NAME)
+    set(dest ${target})
+    if(TARGET ${target}_${folder})
+        set(dest ${target}_${folder})
     endif()
-    target_include_directories(${target} PUBLIC
+    if(all)
+        target_sources(${dest} PRIVATE ${all})
+    endif()
+    target_include_directories(${dest} PUBLIC
         "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
+    if(NOT dest STREQUAL target)
+        # Applications and tests see every public header of the library.
+        target_include_directories(${target} PUBLIC
+            "$<BUILD_INTERFACE:${CMAKE_CURRENT_SOURCE_DIR}>")
+    endif()
     foreach(h IN LISTS ARG_PUBLIC_HEADERS)
         set_property(GLOBAL APPEND PROPERTY ORV_PUBLIC_HEADERS_${target} "${CMAKE_CURRENT_SOURCE_DIR}/${h}")
+    endforeach()
+    foreach(f IN LISTS ARG_SOURCES ARG_PUBLIC_HEADERS ARG_PRIVATE_HEADERS ARG_FORMS)
+        set_property(GLOBAL APPEND PROPERTY ORV_TRANSLATABLE_${target} "${CMAKE_CURRENT_SOURCE_DIR}/${f}")
     endforeach()
 endfunction()
 
@@ -43,9 +84,15 @@ function(orv_install_public_headers target)
     install(FILES ${headers} ${ARGN} DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/OrvWidgets")
 endfunction()
 
+# orv_target_defaults(<target> [PCH_FROM <target>])
 function(orv_target_defaults target)
+    cmake_parse_arguments(ARG "" "PCH_FROM" "" ${ARGN})
     target_compile_options(${target} PRIVATE -Wall -Wextra -Wno-unused-parameter)
     if(ORV_USE_PCH)
-        target_precompile_headers(${target} PRIVATE ${ORV_PCH_HEADERS})
+        if(ARG_PCH_FROM)
+            target_precompile_headers(${target} REUSE_FROM ${ARG_PCH_FROM})
+        else()
+            target_precompile_headers(${target} PRIVATE ${ORV_PCH_HEADERS})
+        endif()
     endif()
 endfunction()
