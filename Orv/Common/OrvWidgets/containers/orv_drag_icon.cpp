@@ -1,4 +1,5 @@
 #include "orv_drag_icon.h"
+#include "orv_logging_p.h"
 
 #include <QAction>
 #include <QButtonGroup>
@@ -16,8 +17,6 @@
 
 namespace OrvWidgets {
 namespace {
-
-Q_LOGGING_CATEGORY(lcDragIcon, "orv.containers")
 
 const QString kDropHandlerFormat = QStringLiteral("DropHandlerPtr");
 constexpr int kMarkEdge = 32;
@@ -71,7 +70,7 @@ void OrvToolButton::setSameWidgetDrop(bool allowed)
 void OrvToolButton::addMimeData(const QString& format, const QByteArray& data)
 {
     if (format.isEmpty()) {
-        qCWarning(lcDragIcon) << "OrvToolButton::addMimeData: empty format refused";
+        qCWarning(lcContainers) << "OrvToolButton::addMimeData: empty format refused";
         return;
     }
     m_mimeData.insert(format, data);
@@ -436,7 +435,7 @@ bool OrvDragIcon::sameWidgetDrop() const
 void OrvDragIcon::setButtonStyle(ButtonStyle style)
 {
     if (style < eAll || style > eTextNextToIcon) {
-        qCWarning(lcDragIcon) << "OrvDragIcon::setButtonStyle: invalid style" << int(style);
+        qCWarning(lcContainers) << "OrvDragIcon::setButtonStyle: invalid style" << int(style);
         return;
     }
     if (style == m_style)
@@ -448,7 +447,7 @@ void OrvDragIcon::setButtonStyle(ButtonStyle style)
 void OrvDragIcon::setIconSize(ButtonSize size)
 {
     if (int(size) <= 0) {
-        qCWarning(lcDragIcon) << "OrvDragIcon::setIconSize: invalid size" << int(size);
+        qCWarning(lcContainers) << "OrvDragIcon::setIconSize: invalid size" << int(size);
         return;
     }
     if (size == m_buttonSize)
@@ -507,7 +506,7 @@ Designer::ButtonSize OrvDragIcon::iconSizeDesigner() const
 bool OrvDragIcon::setAction(QAction* action)
 {
     if (!action) {
-        qCWarning(lcDragIcon) << "OrvDragIcon::setAction: cannot set null-action!";
+        qCWarning(lcContainers) << "OrvDragIcon::setAction: cannot set null-action!";
         return false;
     }
     ensureButton();
@@ -521,7 +520,7 @@ bool OrvDragIcon::setAction(QAction* action)
 void OrvDragIcon::addToButtonGroup(QButtonGroup* group, int id)
 {
     if (!group) {
-        qCWarning(lcDragIcon) << "OrvDragIcon::addToButtonGroup: cannot join null-group!";
+        qCWarning(lcContainers) << "OrvDragIcon::addToButtonGroup: cannot join null-group!";
         return;
     }
     ensureButton();

@@ -1,4 +1,5 @@
 #include "orv_grid_layout.h"
+#include "orv_logging_p.h"
 
 #include <algorithm>
 #include <limits>
@@ -9,8 +10,6 @@
 #include <QRect>
 #include <QResizeEvent>
 #include <QWidget>
-
-Q_LOGGING_CATEGORY(lcGridLayout, "orv.containers.gridlayout")
 
 namespace OrvWidgets {
 
@@ -150,7 +149,7 @@ OrvGridLayout::~OrvGridLayout() = default;
 void OrvGridLayout::add_widget(QWidget* widget)
 {
     if (!widget) {
-        qCWarning(lcGridLayout) << "OrvGridLayout::add_widget: cannot add null-widget!";
+        qCWarning(lcContainers) << "OrvGridLayout::add_widget: cannot add null-widget!";
         return;
     }
     if (m_widgetList.contains(widget))

@@ -1,4 +1,5 @@
 #include "orv_tab_widget.h"
+#include "orv_logging_p.h"
 
 #include "orv_dialog.h"
 #include "orv_dialog_helper.h"
@@ -22,8 +23,6 @@
 #include <QTimer>
 
 #include <cmath>
-
-Q_LOGGING_CATEGORY(lcTabs, "orv.containers.tabs")
 
 namespace OrvWidgets {
 
@@ -286,7 +285,7 @@ void OrvTabWidget::addTab(const QString& menuGroup, const QString& identifier, Q
                           bool focusNewTab)
 {
     if (!widget) {
-        qCWarning(lcTabs) << "OrvTabWidget::addTab: cannot add a null widget";
+        qCWarning(lcContainers) << "OrvTabWidget::addTab: cannot add a null widget";
         return;
     }
     setFocus();
@@ -371,12 +370,12 @@ void OrvTabWidget::slotWindowTitleChanged(const QString& title)
 {
     auto* source = qobject_cast<QWidget*>(sender());
     if (!source) {
-        qCWarning(lcTabs).nospace() << "OrvTabWidget: slotWindowTitleChanged failed! (not a QWidget) " << sender();
+        qCWarning(lcContainers).nospace() << "OrvTabWidget: slotWindowTitleChanged failed! (not a QWidget) " << sender();
         return;
     }
     const int index = indexOf(source);
     if (index < 0) {
-        qCWarning(lcTabs) << "OrvTabWidget: slotWindowTitleChanged failed! (widget not found on TabBar)";
+        qCWarning(lcContainers) << "OrvTabWidget: slotWindowTitleChanged failed! (widget not found on TabBar)";
         return;
     }
     const QStringList parts = title.split(QLatin1String(s_readOnlySeparator), Qt::KeepEmptyParts, Qt::CaseSensitive);
@@ -535,7 +534,7 @@ bool OrvTabWidget::hasUnsavedChanges(OrvTabWidget* tabWidget)
 void OrvTabWidget::onRemoveTab(QObject* object)
 {
     if (!object) {
-        qCWarning(lcTabs) << "onRemoveTab: obj == nullptr";
+        qCWarning(lcContainers) << "onRemoveTab: obj == nullptr";
         return;
     }
     bool found = false;
@@ -547,7 +546,7 @@ void OrvTabWidget::onRemoveTab(QObject* object)
         }
     }
     if (!found)
-        qCWarning(lcTabs) << "OrvTabWidget::onRemoveTab: widget to remove was not on tab map!";
+        qCWarning(lcContainers) << "OrvTabWidget::onRemoveTab: widget to remove was not on tab map!";
 
     // Compared by address only: during destroyed() the object is no longer a widget.
     int index = -1;
@@ -562,7 +561,7 @@ void OrvTabWidget::onRemoveTab(QObject* object)
         // No longer ours to track; it stays a hidden child until deleted.
         disconnect(object, nullptr, this, nullptr);
     } else if (found)
-        qCWarning(lcTabs) << "OrvTabWidget::onRemoveTab: cannot remove widget, as it was not found on the tab widget"
+        qCWarning(lcContainers) << "OrvTabWidget::onRemoveTab: cannot remove widget, as it was not found on the tab widget"
                           << object;
     onCheckTabBarVisibility();
 }

@@ -1,4 +1,5 @@
 #include "orv_tool_bar_area.h"
+#include "orv_logging_p.h"
 
 #include "orv_drag_icon.h"
 #include "orv_settings.h"
@@ -16,8 +17,6 @@
 
 namespace OrvWidgets {
 namespace {
-
-Q_LOGGING_CATEGORY(lcToolBarArea, "orv.containers")
 
 constexpr int kCopyIconSize = 40;
 
@@ -62,7 +61,7 @@ QStringList storedStringList(const QVariant& value, const char* key, bool* clean
                 result << item.toString();
             else {
                 *clean = false;
-                qCWarning(lcToolBarArea).noquote() << "OrvToolBarArea: skipping stored" << key << "item of type"
+                qCWarning(lcContainers).noquote() << "OrvToolBarArea: skipping stored" << key << "item of type"
                                                    << item.typeName();
             }
         }
@@ -70,7 +69,7 @@ QStringList storedStringList(const QVariant& value, const char* key, bool* clean
     }
     default:
         *clean = false;
-        qCWarning(lcToolBarArea).noquote() << "OrvToolBarArea: ignoring stored" << key << "of type" << value.typeName();
+        qCWarning(lcContainers).noquote() << "OrvToolBarArea: ignoring stored" << key << "of type" << value.typeName();
         return {};
     }
 }
@@ -210,7 +209,7 @@ OrvDragIcon* OrvToolBarArea::createCopy(OrvDragIcon* original)
 void OrvToolBarArea::addMenuEntry(OrvDragIcon* source, OrvDragIcon* target)
 {
     if (!source) {
-        qCWarning(lcToolBarArea) << "OrvToolBarArea::addMenuEntry: cannot add null-entry!";
+        qCWarning(lcContainers) << "OrvToolBarArea::addMenuEntry: cannot add null-entry!";
         return;
     }
     if (m_foreignButtonMap.contains(source))
@@ -294,7 +293,7 @@ bool OrvToolBarArea::clearKeyOf(const QString& identifier)
 bool OrvToolBarArea::removeMenuAction(OrvDragIcon* icon)
 {
     if (!icon) {
-        qCWarning(lcToolBarArea) << "OrvToolBarArea::removeMenuAction: cannot remove null-entry!";
+        qCWarning(lcContainers) << "OrvToolBarArea::removeMenuAction: cannot remove null-entry!";
         return false;
     }
     qsizetype index = m_buttonMap.indexOf(icon);
@@ -335,7 +334,7 @@ void OrvToolBarArea::setMenuEntries(const QList<OrvDragIcon*>& originals)
         clearToolBarArea();
         for (OrvDragIcon* original : originals) {
             if (!original) {
-                qCWarning(lcToolBarArea) << "OrvToolBarArea::setMenuEntries: skipping null-entry";
+                qCWarning(lcContainers) << "OrvToolBarArea::setMenuEntries: skipping null-entry";
                 continue;
             }
             addMenuEntry(original, nullptr);
@@ -362,7 +361,7 @@ QStringList OrvToolBarArea::menuEntries() const
 bool OrvToolBarArea::setFunctionKey(int key, const QString& identifier)
 {
     if (!isFunctionKey(key)) {
-        qCWarning(lcToolBarArea).noquote() << "OrvToolBarArea::setFunctionKey: key" << Qt::hex << Qt::showbase << key
+        qCWarning(lcContainers).noquote() << "OrvToolBarArea::setFunctionKey: key" << Qt::hex << Qt::showbase << key
                                            << "is not one of F5 to F12";
         return false;
     }
@@ -376,7 +375,7 @@ bool OrvToolBarArea::setFunctionKey(int key, const QString& identifier)
         }
     }
     if (!copy) {
-        qCWarning(lcToolBarArea).noquote() << "OrvToolBarArea::setFunctionKey: no entry" << identifier
+        qCWarning(lcContainers).noquote() << "OrvToolBarArea::setFunctionKey: no entry" << identifier
                                            << "in the tool bar";
         return false;
     }
@@ -432,7 +431,7 @@ void OrvToolBarArea::showContextMenu(const QPoint& pos)
 {
     auto* copy = qobject_cast<OrvDragIcon*>(sender());
     if (!copy || !m_buttonMap.contains(copy)) {
-        qCWarning(lcToolBarArea) << "OrvToolBarArea::showContextMenu: sender is no entry of the tool bar";
+        qCWarning(lcContainers) << "OrvToolBarArea::showContextMenu: sender is no entry of the tool bar";
         return;
     }
     auto* menu = new QMenu(this);
@@ -543,7 +542,7 @@ QStringList OrvToolBarArea::readSavedEntries(bool* clean) const
     for (const QString& identifier : stored) {
         if (identifier.isEmpty() || seen.contains(identifier)) {
             *clean = false;
-            qCWarning(lcToolBarArea).noquote() << "OrvToolBarArea: skipping empty or repeated stored entry" << identifier;
+            qCWarning(lcContainers).noquote() << "OrvToolBarArea: skipping empty or repeated stored entry" << identifier;
             continue;
         }
         seen.insert(identifier);
@@ -565,7 +564,7 @@ QMap<int, QString> OrvToolBarArea::readSavedFunctionKeys(bool* clean) const
         const QString identifier = separator > 0 ? item.mid(separator + 1) : QString();
         if (key == 0 || identifier.isEmpty() || result.contains(key) || bound.contains(identifier)) {
             *clean = false;
-            qCWarning(lcToolBarArea).noquote() << "OrvToolBarArea: skipping stored function key" << item;
+            qCWarning(lcContainers).noquote() << "OrvToolBarArea: skipping stored function key" << item;
             continue;
         }
         bound.insert(identifier);
@@ -591,7 +590,7 @@ bool OrvToolBarArea::restoreSettings(const QList<OrvDragIcon*>& availableOrigina
     for (const QString& identifier : entries) {
         OrvDragIcon* original = byIdentifier.value(identifier);
         if (!original) {
-            qCWarning(lcToolBarArea).noquote() << "OrvToolBarArea::restoreSettings: skipping stored entry" << identifier
+            qCWarning(lcContainers).noquote() << "OrvToolBarArea::restoreSettings: skipping stored entry" << identifier
                                                << "- no such menu entry";
             complete = false;
             continue;

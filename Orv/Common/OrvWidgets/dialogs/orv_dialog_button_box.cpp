@@ -1,4 +1,5 @@
 #include "orv_dialog_button_box.h"
+#include "orv_logging_p.h"
 
 #include "open_questions_p.h"
 #include "orv_message_dialog.h"
@@ -13,8 +14,6 @@
 #include <QMenu>
 #include <QPointer>
 #include <QPushButton>
-
-Q_LOGGING_CATEGORY(lcButtonBox, "orv.dialogs.buttonbox")
 
 namespace OrvWidgets {
 
@@ -75,7 +74,7 @@ QPushButton* OrvDialogButtonBox::getButton(DialogButton value) const
 {
     QPushButton* found = button(value);
     if (!found) {
-        qCWarning(lcButtonBox) << "OrvDialogButtonBox::getButton: unknown button" << int(value);
+        qCWarning(lcDialogs) << "OrvDialogButtonBox::getButton: unknown button" << int(value);
         Q_ASSERT_X(false, "OrvDialogButtonBox::getButton", "unknown DialogButton value");
     }
     return found;

@@ -1,4 +1,5 @@
 #include "orv_info_dialog.h"
+#include "orv_logging_p.h"
 
 #include "orv_version.h"
 #include "ui_orv_info_dialog.h"
@@ -6,8 +7,6 @@
 #include <QFile>
 #include <QLoggingCategory>
 #include <QPixmap>
-
-Q_LOGGING_CATEGORY(lcInfo, "orv.dialogs.info")
 
 namespace OrvWidgets {
 
@@ -30,7 +29,7 @@ OrvInfoDialog::OrvInfoDialog(QWidget* parent)
                                  : QStringLiteral(":/project/logo.png");
     const QPixmap logo(logoPath);
     if (logo.isNull()) {
-        qCWarning(lcInfo) << "OrvInfoDialog: project logo missing or is not an valid image ";
+        qCWarning(lcDialogs) << "OrvInfoDialog: project logo missing or is not an valid image ";
     } else {
         const int height = int(m_ui->lblProjectLogo->maximumHeight() * 0.85);
         m_ui->lblProjectLogo->setPixmap(

@@ -1,4 +1,5 @@
 #include "orv_message_dialog.h"
+#include "orv_logging_p.h"
 
 #include "message_dialog_builder_p.h"
 
@@ -10,8 +11,6 @@
 #include <QLoggingCategory>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-Q_LOGGING_CATEGORY(lcMessage, "orv.dialogs.message")
 
 namespace OrvWidgets {
 namespace {
@@ -82,7 +81,7 @@ OrvMessageDialog::Button OrvMessageDialog::showMessage(QWidget* parent, const QS
                                                        const QHash<Button, QString>& buttonTexts)
 {
     if (s_inEventLoop.loadAcquire() != 0) {
-        qCDebug(lcMessage) << "OrvMessageDialog: showMessage called while showMessage is in its Event Loop - do "
+        qCDebug(lcDialogs) << "OrvMessageDialog: showMessage called while showMessage is in its Event Loop - do "
                               "not open more than one Dialog at once !!";
     }
     s_inEventLoop.ref();

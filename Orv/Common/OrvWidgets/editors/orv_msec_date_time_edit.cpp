@@ -1,4 +1,5 @@
 #include "orv_msec_date_time_edit.h"
+#include "orv_logging_p.h"
 
 #include <QLoggingCategory>
 #include <QTimeZone>
@@ -6,7 +7,6 @@
 namespace OrvWidgets {
 
 namespace {
-Q_LOGGING_CATEGORY(lcMSecEdit, "orv.editors")
 const QString kDisplayFormat = QStringLiteral("dd.MM.yy HH:mm:ss.zzz");
 constexpr qint64 kMSecsPerHour = 3600 * 1000;
 } // namespace
@@ -93,7 +93,7 @@ void OrvMSecDateTimeEdit::setMsecStepSize(int msecs)
 {
     // The step is the rounding divisor.
     if (msecs <= 0) {
-        qCWarning(lcMSecEdit) << "OrvMSecDateTimeEdit::setMsecStepSize: step must be positive:" << msecs;
+        qCWarning(lcEditors) << "OrvMSecDateTimeEdit::setMsecStepSize: step must be positive:" << msecs;
         return;
     }
     m_msecStepSize = msecs;

@@ -1,9 +1,8 @@
 #include "orv_events.h"
+#include "orv_logging_p.h"
 
 #include <QCoreApplication>
 #include <QLoggingCategory>
-
-Q_LOGGING_CATEGORY(lcEvents, "orv.foundation")
 
 namespace OrvWidgets {
 namespace {
@@ -116,7 +115,7 @@ void postToApplication(QEvent* event)
     if (!event)
         return;
     if (!QCoreApplication::instance()) {
-        qCWarning(lcEvents) << "postToApplication: no application object - event dropped";
+        qCWarning(lcFoundation) << "postToApplication: no application object - event dropped";
         delete event;
         return;
     }

@@ -1,11 +1,10 @@
 #include "orv_background_widget.h"
+#include "orv_logging_p.h"
 
 #include <QCloseEvent>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QPainter>
-
-Q_LOGGING_CATEGORY(lcBackground, "orv.shell.background")
 
 namespace OrvWidgets {
 
@@ -45,7 +44,7 @@ void OrvBackgroundWidget::setBackground()
             setBackground();
             return;
         }
-        qCWarning(lcBackground)
+        qCWarning(lcShell)
             << "BackgroundWidget::c_tor: file missing or is not a valid image ':/project/background.png'";
     }
     update();

@@ -1,4 +1,5 @@
 #include "orv_base_layout_widget.h"
+#include "orv_logging_p.h"
 
 #include "orv_base_layout_widget_p.h"
 #include "orv_dialog.h"
@@ -25,8 +26,6 @@
 #include <QScroller>
 #include <QTimer>
 #include <QToolButton>
-
-Q_LOGGING_CATEGORY(lcShell, "orv.shell")
 
 namespace OrvWidgets {
 

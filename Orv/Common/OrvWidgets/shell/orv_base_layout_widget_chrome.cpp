@@ -2,6 +2,7 @@
 // and its notification queue.
 
 #include "orv_base_layout_widget.h"
+#include "orv_logging_p.h"
 
 #include "orv_base_layout_widget_p.h"
 #include "orv_dialog.h"
@@ -18,8 +19,6 @@
 #include <QLoggingCategory>
 #include <QPropertyAnimation>
 #include <QToolButton>
-
-Q_DECLARE_LOGGING_CATEGORY(lcShell)
 
 namespace OrvWidgets {
 

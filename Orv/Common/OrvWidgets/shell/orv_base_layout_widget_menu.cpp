@@ -1,6 +1,7 @@
 // The shell's plug-in menu: one button per entry, grouped per exercise part.
 
 #include "orv_base_layout_widget.h"
+#include "orv_logging_p.h"
 
 #include "orv_base_layout_widget_p.h"
 #include "orv_dialog.h"
@@ -15,8 +16,6 @@
 
 #include <algorithm>
 #include <functional>
-
-Q_DECLARE_LOGGING_CATEGORY(lcShell)
 
 namespace OrvWidgets {
 

@@ -1,4 +1,5 @@
 #include "orv_operator_menu.h"
+#include "orv_logging_p.h"
 
 #include "orv_info_dialog.h"
 
@@ -15,8 +16,6 @@
 #include <QProcess>
 #include <QPushButton>
 #include <QVBoxLayout>
-
-Q_LOGGING_CATEGORY(lcOperatorMenu, "orv.shell.operatormenu")
 
 namespace Ui {
 
@@ -209,7 +208,7 @@ void OrvOperatorMenu::onTerminalButtonClicked()
     environment.insert(QStringLiteral("LANG"), QString::fromLatin1(Dax::translationLocale()) + QStringLiteral(".UTF-8"));
     process.setProcessEnvironment(environment);
     if (!process.startDetached())
-        qCWarning(lcOperatorMenu) << "OrvOperatorMenu: cannot start terminal" << process.program();
+        qCWarning(lcShell) << "OrvOperatorMenu: cannot start terminal" << process.program();
 }
 
 void OrvOperatorMenu::onLanguageChange()

@@ -1,4 +1,5 @@
 #include "orv_text_editor2.h"
+#include "orv_logging_p.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -29,8 +30,6 @@
 #include <array>
 
 namespace {
-Q_LOGGING_CATEGORY(lcTextEditors, "orv.texteditors")
-
 bool isBulletStyle(int style)
 {
     return style <= QTextListFormat::ListDisc && style >= QTextListFormat::ListSquare;
