@@ -156,8 +156,6 @@ private Q_SLOTS:
     void slotOperatorMenuClicked();
 
 private:
-    friend class OrvBaseLayoutWidgetTest;
-
     bool isDialogFocused(const OrvDialog* dialog, const LayoutArea& area) const;
     bool isDialogFocused(const OrvDialog* dialog, const OrvTabWidget* tab) const;
     int getIndexOfTab(OrvTabWidget* tab);

@@ -9,7 +9,6 @@
 
 namespace OrvWidgets {
 
-class OrvTextEditor;
 class OrvTextEditor2;
 
 // Ready-made page for editing one rich text. The edited HTML leaves the page by
@@ -52,8 +51,6 @@ protected:
 private:
     void emitTextChanged();
 
-    // The classic editor; this page is built on OrvTextEditor2, so it stays null.
-    OrvTextEditor* m_textEditor = nullptr;
     QPointer<OrvTextEditor2> m_textEditor2;
 };
 
