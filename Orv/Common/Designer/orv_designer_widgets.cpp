@@ -1,0 +1,114 @@
+// Every widget the form designer offers. A new public widget joins with one entry.
+
+#include "orv_designer_plugin.h"
+
+#include <orv_angle_edit.h>
+#include <orv_bitfield_widget.h>
+#include <orv_date_time_edit.h>
+#include <orv_dialog_button_box.h>
+#include <orv_double_spin_box.h>
+#include <orv_drag_icon.h>
+#include <orv_elided_label.h>
+#include <orv_msec_date_time_edit.h>
+#include <orv_multi_range_spin_box.h>
+#include <orv_profile_button.h>
+#include <orv_spin_box.h>
+#include <orv_tab_widget.h>
+#include <orv_text_editor2.h>
+#include <orv_tool_bar_area.h>
+#include <orv_tool_box.h>
+
+namespace OrvWidgets::DesignerPlugin {
+
+namespace {
+
+template <typename Widget>
+std::function<QWidget*(QWidget*)> plain()
+{
+    return [](QWidget* parent) { return new Widget(parent); };
+}
+
+QString twoPages(const QString& pageClass, const QString& titleAttribute)
+{
+    QString xml;
+    for (int page = 1; page <= 2; ++page) {
+        xml += QStringLiteral("  <widget class=\"%1\" name=\"page%2\">\n"
+                              "   <attribute name=\"%3\"><string>Page %2</string></attribute>\n"
+                              "  </widget>\n")
+                   .arg(pageClass)
+                   .arg(page)
+                   .arg(titleAttribute);
+    }
+    return xml;
+}
+
+} // namespace
+
+QList<WidgetEntry> widgetEntries()
+{
+    QList<WidgetEntry> entries;
+    auto add = [&entries](const char* className, const char* header, const char* toolTip, const char* whatsThis,
+                          QSize size, std::function<QWidget*(QWidget*)> create) -> WidgetEntry& {
+        entries.append({QStringLiteral("OrvWidgets::") + QLatin1String(className), QLatin1String(header),
+                        QLatin1String(toolTip), QLatin1String(whatsThis), size, false, QString(), std::move(create)});
+        return entries.last();
+    };
+
+    // Value editors
+    add("OrvDateTimeEdit", "orv_date_time_edit.h", "Date-time group editor",
+        "Edits a military date-time group (day, hour, minute, zone letter, month, year) with limits.",
+        QSize(360, 32), plain<OrvDateTimeEdit>());
+    add("OrvMSecDateTimeEdit", "orv_msec_date_time_edit.h", "Date-time editor with milliseconds",
+        "A date-time editor that steps and shows milliseconds.", QSize(220, 28), plain<OrvMSecDateTimeEdit>());
+    add("OrvAngleEdit", "orv_angle_edit.h", "Angle editor in degrees, mils or radians",
+        "One or more angle boxes sharing a unit selector; switching the unit converts the values.",
+        QSize(220, 28), [](QWidget* parent) {
+            auto* edit = new OrvAngleEdit(parent);
+            edit->initAngleEditWidget(1);
+            return edit;
+        });
+    add("OrvSpinBox", "orv_spin_box.h", "Spin box with a step grid and excluded ranges",
+        "An integer spin box that keeps values on a step grid and skips excluded ranges.", QSize(120, 28),
+        plain<OrvSpinBox>());
+    add("OrvDoubleSpinBox", "orv_double_spin_box.h", "Decimal spin box with a step grid",
+        "A decimal spin box that keeps values on a step grid.", QSize(120, 28), plain<OrvDoubleSpinBox>());
+    add("OrvMultiRangeSpinBox", "orv_multi_range_spin_box.h", "Spin box over several allowed ranges",
+        "An integer spin box whose value lies in one of several allowed ranges.", QSize(120, 28),
+        plain<OrvMultiRangeSpinBox>());
+    add("OrvBitfieldWidget", "orv_bitfield_widget.h", "Editor for an 8-bit field",
+        "Shows and edits the eight bits of a byte as cells.", QSize(260, 48), plain<OrvBitfieldWidget>());
+
+    // Containers and buttons
+    WidgetEntry& tabs = add("OrvTabWidget", "orv_tab_widget.h", "Tab widget for pages",
+                            "Holds pages as tabs keyed by menu group and identifier.", QSize(400, 300),
+                            [](QWidget* parent) { return new OrvTabWidget(parent, false); });
+    tabs.container = true;
+    tabs.pagesXml = twoPages(QStringLiteral("QWidget"), QStringLiteral("title"));
+    WidgetEntry& toolBox = add("OrvToolBox", "orv_tool_box.h", "Tool box of menu button groups",
+                               "A tool box whose pages hold groups of menu buttons.", QSize(220, 300),
+                               plain<OrvToolBox>());
+    toolBox.container = true;
+    toolBox.pagesXml = twoPages(QStringLiteral("QWidget"), QStringLiteral("label"));
+    add("OrvDragIcon", "orv_drag_icon.h", "Draggable menu button",
+        "A menu button in the suite's styles and sizes that can be dragged to the tool bar.", QSize(120, 40),
+        plain<OrvDragIcon>());
+    add("OrvToolBarArea", "orv_tool_bar_area.h", "Tool bar area with function keys",
+        "Takes dropped menu buttons as copies and binds them to the function keys F5 to F12.", QSize(400, 48),
+        plain<OrvToolBarArea>());
+    add("OrvElidedLabel", "orv_elided_label.h", "Label that elides its text",
+        "A label that shortens its text with an ellipsis where space runs out.", QSize(160, 24),
+        plain<OrvElidedLabel>());
+    add("OrvDialogButtonBox", "orv_dialog_button_box.h", "Page button box",
+        "The standard buttons of a page (OK, Apply, Cancel and more).", QSize(400, 48),
+        plain<OrvDialogButtonBox>());
+    add("OrvProfileButton", "orv_profile_button.h", "Operator's profile picture button",
+        "Shows the operator's picture and opens the operator menu.", QSize(48, 48), plain<OrvProfileButton>());
+
+    // Text
+    add("OrvTextEditor2", "orv_text_editor2.h", "Rich text editor",
+        "Formats text, and loads and saves Markdown, HTML, plain text and OpenDocument text.", QSize(480, 320),
+        plain<OrvTextEditor2>());
+    return entries;
+}
+
+} // namespace OrvWidgets::DesignerPlugin
