@@ -67,15 +67,19 @@ enum DialogButton {
     _debug_ = 20
 };
 
-// The same enumerations once more, as meta-object enums for designer properties.
+/*! The same enumerations once more, as meta-object enums for the form designer's
+    properties. */
 class ORVWIDGETS_EXPORT Designer
 {
     Q_GADGET
 public:
+    /*! As OrvWidgets::ButtonStyle. */
     enum ButtonStyle { eAll = 1, eTextOnly = 2, eIconOnly = 3, eTextNextToIcon = 4 };
     Q_ENUM(ButtonStyle)
+    /*! As OrvWidgets::ButtonSize. */
     enum ButtonSize { eDefault = 40 };
     Q_ENUM(ButtonSize)
+    /*! As OrvWidgets::LayoutArea; eUnknown is named eUnknownArea here. */
     enum LayoutArea { eUnknownArea = 0, eInfoTab = 1, eDialogTab = 2, eSpecialTab = 3, eMainTab = 4 };
     Q_ENUM(LayoutArea)
 };
