@@ -61,8 +61,8 @@ private Q_SLOTS:
             QXmlStreamReader xml(entry->domXml());
             bool sawClass = false;
             while (!xml.atEnd()) {
-                if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("widget")
-                    && xml.attributes().value(QLatin1String("class")) == name)
+                if (xml.readNext() == QXmlStreamReader::StartElement && xml.name() == QLatin1String("widget") &&
+                    xml.attributes().value(QLatin1String("class")) == name)
                     sawClass = true;
             }
             QVERIFY2(!xml.hasError() && sawClass, qPrintable(name + QLatin1Char(' ') + xml.errorString()));
@@ -109,7 +109,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("message");
         QTest::newRow("unknown class") << QStringLiteral("unknown_class.ui")
                                        << QStringLiteral("OrvWidgets::OrvNoSuchBox");
-        QTest::newRow("wrong property") << QStringLiteral("wrong_property.ui") << QStringLiteral("\"noSuchProperty\", which the class does not have");
+        QTest::newRow("wrong property") << QStringLiteral("wrong_property.ui")
+                                        << QStringLiteral("\"noSuchProperty\", which the class does not have");
     }
     void brokenFormsSayWhyAndStillLoad()
     {

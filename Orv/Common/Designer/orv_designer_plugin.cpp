@@ -3,10 +3,10 @@
 #include <QDynamicPropertyChangeEvent>
 #include <QLoggingCategory>
 #include <QPainter>
-#include <QTimer>
 #include <QPixmap>
 #include <QPointer>
 #include <QStyle>
+#include <QTimer>
 #include <QWidget>
 
 Q_LOGGING_CATEGORY(lcDesigner, "orv.designer")

@@ -1,35 +1,19 @@
 #pragma once
 
-// The form designer's view of the library: every public widget in the group
-// "OrvWidgets", created through one generic interface from a table of entries.
+// The form designer's view of the library: every public widget of the catalog in
+// the group "OrvWidgets", created through one generic interface.
 
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
 #include <QtUiPlugin/QDesignerCustomWidgetInterface>
 
+#include "orv_widget_catalog.h"
+
 #include <QIcon>
 #include <QObject>
-#include <QSize>
-
-#include <functional>
 
 class QDesignerFormEditorInterface;
 
 namespace OrvWidgets::DesignerPlugin {
-
-// One widget as the designer offers it.
-struct WidgetEntry {
-    QString className;   // with namespace, as forms name it: "OrvWidgets::OrvSpinBox"
-    QString includeFile; // the public header
-    QString toolTip;     // one line in the widget box
-    QString whatsThis;   // a sentence or two
-    QSize defaultSize;   // the size a newly dropped widget gets
-    bool container = false;
-    QString pagesXml;    // child pages of a container, as form XML
-    std::function<QWidget*(QWidget*)> create;
-};
-
-// The table of every widget the plugin offers (orv_designer_widgets.cpp).
-QList<WidgetEntry> widgetEntries();
 
 class OrvCustomWidget : public QObject, public QDesignerCustomWidgetInterface
 {
