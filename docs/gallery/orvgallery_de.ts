@@ -15,5 +15,17 @@
         <source>&lt;h2&gt;Briefing&lt;/h2&gt;&lt;p&gt;The exercise starts at &lt;b&gt;0800Z&lt;/b&gt;. Report to the control room.&lt;/p&gt;</source>
         <translation>&lt;h2&gt;Einweisung&lt;/h2&gt;&lt;p&gt;Die Übung beginnt um &lt;b&gt;0800Z&lt;/b&gt;. Melden Sie sich im Leitstand.&lt;/p&gt;</translation>
     </message>
+    <message>
+        <source>Observer</source>
+        <translation>Beobachter</translation>
+    </message>
+    <message>
+        <source>Controller</source>
+        <translation>Leitender</translation>
+    </message>
+    <message>
+        <source>Umpire</source>
+        <translation>Schiedsrichter</translation>
+    </message>
 </context>
 </TS>

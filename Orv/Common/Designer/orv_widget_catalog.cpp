@@ -4,6 +4,7 @@
 
 #include <orv_angle_edit.h>
 #include <orv_bitfield_widget.h>
+#include <orv_combo_box.h>
 #include <orv_date_time_edit.h>
 #include <orv_dialog_button_box.h>
 #include <orv_double_spin_box.h>
@@ -114,6 +115,18 @@ QList<WidgetEntry> widgetEntries()
     add("OrvBitfieldWidget", "orv_bitfield_widget.h", "Editor for an 8-bit field",
         "Shows and edits the eight bits of a byte as cells.", QSize(260, 48), plain<OrvBitfieldWidget>())
         .showcase = [](QWidget* w) { static_cast<OrvBitfieldWidget*>(w)->setValue(0xA5); };
+
+    add("OrvComboBox", "orv_combo_box.h", "Combo box with a search line",
+        "A combo box for long lists: typing filters its popup; optionally several items can be checked.",
+        QSize(200, 28), plain<OrvComboBox>())
+        .showcase = [](QWidget* w) {
+        auto* combo = static_cast<OrvComboBox*>(w);
+        combo->addItems({QCoreApplication::translate("OrvGallery", "Observer"),
+                         QCoreApplication::translate("OrvGallery", "Controller"),
+                         QCoreApplication::translate("OrvGallery", "Umpire")});
+        combo->setMultiSelection(true);
+        combo->setCheckedRows({0, 2});
+    };
 
     // Containers and buttons
     WidgetEntry& tabs = add("OrvTabWidget", "orv_tab_widget.h", "Tab widget for pages",

@@ -335,6 +335,16 @@ Beschreibung:</translation>
     </message>
 </context>
 <context>
+    <name>OrvWidgets::OrvComboBox</name>
+    <message numerus="yes">
+        <source>%n selected</source>
+        <translation>
+            <numerusform>%n ausgewählt</numerusform>
+            <numerusform>%n ausgewählt</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>OrvWidgets::OrvDialog</name>
     <message>
         <source>There are elements that have invalid or no value.&lt;br&gt;Please change values in the elements which are marked with red text.</source>
@@ -415,9 +425,9 @@ Beschreibung:</translation>
     </message>
     <message>
         <source>Operation has failed!
-Reason: '%1'</source>
+Reason: &apos;%1&apos;</source>
         <translation>Vorgang fehlgeschlagen!
-Grund: '%1'</translation>
+Grund: &apos;%1&apos;</translation>
     </message>
     <message>
         <source>Operation has timed out and could not be processed! Please try again later</source>
@@ -430,6 +440,21 @@ Grund: '%1'</translation>
     <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>OrvWidgets::OrvSelectionPopup</name>
+    <message>
+        <source>Search…</source>
+        <translation>Suchen…</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suche</translation>
+    </message>
+    <message>
+        <source>Choices</source>
+        <translation>Auswahl</translation>
     </message>
 </context>
 <context>
@@ -664,35 +689,35 @@ Grund: '%1'</translation>
         <translation>Römisch I, II, III</translation>
     </message>
     <message>
-        <source>The file "%1" does not exist.</source>
+        <source>The file &quot;%1&quot; does not exist.</source>
         <translation>Die Datei „%1“ existiert nicht.</translation>
     </message>
     <message>
-        <source>"%1" is a folder, not a file.</source>
+        <source>&quot;%1&quot; is a folder, not a file.</source>
         <translation>„%1“ ist ein Ordner, keine Datei.</translation>
     </message>
     <message>
-        <source>OpenDocument text can be saved but not loaded: "%1".</source>
+        <source>OpenDocument text can be saved but not loaded: &quot;%1&quot;.</source>
         <translation>OpenDocument-Text kann gespeichert, aber nicht geladen werden: „%1“.</translation>
     </message>
     <message>
-        <source>The file "%1" has an unknown format. Supported are Markdown (.md), HTML (.html) and plain text (.txt).</source>
+        <source>The file &quot;%1&quot; has an unknown format. Supported are Markdown (.md), HTML (.html) and plain text (.txt).</source>
         <translation>Die Datei „%1“ hat ein unbekanntes Format. Unterstützt werden Markdown (.md), HTML (.html) und reiner Text (.txt).</translation>
     </message>
     <message>
-        <source>The file "%1" cannot be read: %2</source>
+        <source>The file &quot;%1&quot; cannot be read: %2</source>
         <translation>Die Datei „%1“ kann nicht gelesen werden: %2</translation>
     </message>
     <message>
-        <source>The file "%1" is not valid UTF-8 text.</source>
+        <source>The file &quot;%1&quot; is not valid UTF-8 text.</source>
         <translation>Die Datei „%1“ ist kein gültiger UTF-8-Text.</translation>
     </message>
     <message>
-        <source>The format for "%1" is unknown. Use the suffix .md, .html, .txt or .odt.</source>
+        <source>The format for &quot;%1&quot; is unknown. Use the suffix .md, .html, .txt or .odt.</source>
         <translation>Das Format für „%1“ ist unbekannt. Verwenden Sie die Endung .md, .html, .txt oder .odt.</translation>
     </message>
     <message>
-        <source>The file "%1" cannot be written: %2</source>
+        <source>The file &quot;%1&quot; cannot be written: %2</source>
         <translation>Die Datei „%1“ kann nicht geschrieben werden: %2</translation>
     </message>
 </context>
