@@ -27,5 +27,9 @@
         <source>Umpire</source>
         <translation>Schiedsrichter</translation>
     </message>
+    <message>
+        <source>Report to the &lt;b&gt;control room&lt;/b&gt; at 0800Z.</source>
+        <translation>Melden Sie sich um 0800Z im &lt;b&gt;Leitstand&lt;/b&gt;.</translation>
+    </message>
 </context>
 </TS>

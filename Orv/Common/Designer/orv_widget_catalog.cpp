@@ -15,6 +15,7 @@
 #include <orv_profile_button.h>
 #include <orv_spin_box.h>
 #include <orv_tab_widget.h>
+#include <orv_text_editor.h>
 #include <orv_text_editor2.h>
 #include <orv_tool_bar_area.h>
 #include <orv_tool_box.h>
@@ -161,6 +162,14 @@ QList<WidgetEntry> widgetEntries()
         "Shows the operator's picture and opens the operator menu.", QSize(48, 48), plain<OrvProfileButton>());
 
     // Text
+    add("OrvTextEditor", "orv_text_editor.h", "Compact editor for short texts",
+        "Bold, italic, underline and lists in one row, with an optional character limit and counter.", QSize(360, 120),
+        plain<OrvTextEditor>())
+        .showcase = [](QWidget* w) {
+        auto* editor = static_cast<OrvTextEditor*>(w);
+        editor->setMaximumLength(160);
+        editor->setHtml(QCoreApplication::translate("OrvGallery", "Report to the <b>control room</b> at 0800Z."));
+    };
     add("OrvTextEditor2", "orv_text_editor2.h", "Rich text editor",
         "Formats text, and loads and saves Markdown, HTML, plain text and OpenDocument text.", QSize(480, 320),
         plain<OrvTextEditor2>())

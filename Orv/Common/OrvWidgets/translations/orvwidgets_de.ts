@@ -495,6 +495,24 @@ Grund: &apos;%1&apos;</translation>
     </message>
 </context>
 <context>
+    <name>OrvWidgets::OrvTextEditor</name>
+    <message>
+        <source>%1 / %2</source>
+        <translation>%1 / %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>The text can have at most %n characters.</source>
+        <translation>
+            <numerusform>Der Text darf höchstens %n Zeichen lang sein.</numerusform>
+            <numerusform>Der Text darf höchstens %n Zeichen lang sein.</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Characters used</source>
+        <translation>Verwendete Zeichen</translation>
+    </message>
+</context>
+<context>
     <name>OrvWidgets::OrvTextEditor2</name>
     <message>
         <source>Text Colour</source>
