@@ -59,12 +59,15 @@ int main(int argc, char** argv)
     QCoreApplication::processEvents();
 
     DemoController controller;
-    QObject::connect(&controller, &DemoController::closeRequested, &app, &QCoreApplication::quit);
+    // exit(), not quit(): quit() first asks every window to close, and the shell and the
+    // background refuse a close by design (the shell asks about unsaved changes itself).
+    QObject::connect(&controller, &DemoController::closeRequested, &app, [] { QCoreApplication::exit(0); });
     OrvWidgets::OrvBaseLayoutWidget* shell = controller.shell();
     shell->resize(1440, 900);
     if (!takeScreenshot)
         controller.showBackground();
     shell->show();
+    shell->activateWindow();
     splash->done();
 
     // The planning part first, with the participants at hand, unless told otherwise.

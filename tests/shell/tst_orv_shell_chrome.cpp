@@ -181,8 +181,14 @@ private Q_SLOTS:
         QVERIFY(!shell.isVisible());
         QCOMPARE(answerer.answered(), 2);
 
-        shell.slotLogout(); // never asks
+        // Logging out asks as closing does.
+        shell.show();
+        answerer.click("Cancel").click("Discard All");
+        shell.slotLogout();
+        QCOMPARE(logout.count(), 0);
+        shell.slotLogout();
         QCOMPARE(logout.count(), 1);
+        QCOMPARE(answerer.answered(), 4);
 
         // With a receiver the application decides.
         connect(&shell, &OrvBaseLayoutWidget::signalNotifyUnsavedChanges, this, [](bool& ok) { ok = false; });

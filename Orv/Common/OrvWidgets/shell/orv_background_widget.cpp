@@ -12,7 +12,11 @@ OrvBackgroundWidget::OrvBackgroundWidget(QWidget* parent)
     : QDialog(parent)
 {
     setMouseTracking(true);
-    setWindowFlags(windowFlags() | Qt::FramelessWindowHint);
+    // Below every other window of the application and never holding the keyboard focus,
+    // whatever the window manager does with a new full-screen window.
+    setWindowFlags(windowFlags() | Qt::FramelessWindowHint | Qt::WindowStaysOnBottomHint
+                   | Qt::WindowDoesNotAcceptFocus);
+    setAttribute(Qt::WA_ShowWithoutActivating);
     setWindowTitle(QStringLiteral("Splash"));
     setBackground();
 }

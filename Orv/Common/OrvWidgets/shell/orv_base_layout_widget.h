@@ -129,7 +129,11 @@ public:
     bool notifyUnsavedChanges();
 
 Q_SIGNALS:
+    /*! Emitted when the operator closed the shell and every changed page agreed; the shell
+        is hidden. The application ends here with QCoreApplication::exit(): quit() would
+        first ask every window to close, and the shell and the background refuse that. */
     void signalClose();
+    /*! Emitted when the operator logged out and every changed page agreed. */
     void signalLogout();
     void signalShowOperatorSettings();
     void signalRetranslateActions();

@@ -239,6 +239,9 @@ bool OrvBaseLayoutWidget::slotClose()
 
 void OrvBaseLayoutWidget::slotLogout()
 {
+    // Logging out ends the session as closing does: changed pages are asked first.
+    if (!notifyUnsavedChanges())
+        return;
     Q_EMIT signalLogout();
 }
 
