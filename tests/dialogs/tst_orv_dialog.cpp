@@ -275,6 +275,12 @@ private Q_SLOTS:
             QVERIFY(!w->isEnabled());
         page->slotChangesMade();
         page->spin->setValue(9);
+        // Changed before the lock, but nothing may be applied while another party holds it.
+        QVERIFY(!page->box()->getButton(Ok)->isEnabled() && !page->box()->getButton(Apply)->isEnabled());
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("_apply refused: topic locked by X"));
+        QMetaObject::invokeMethod(page, "slotApply"); // a caller or shortcut that ignores the buttons
+        QCOMPARE(page->applies, 0);
+        QVERIFY(page->hasUnsavedChanges());
 
         OrvTest::DialogAnswerer answerer;
         answerer.click("Ok");
@@ -282,6 +288,7 @@ private Q_SLOTS:
         QCOMPARE(answerer.texts(), QStringList("Locked by: X"));
 
         page->slotUnlock();
+        QVERIFY(page->box()->getButton(Ok)->isEnabled() && page->box()->getButton(Apply)->isEnabled());
         QVERIFY(!page->unchangeable() && !readOnly->isVisible());
         QCOMPARE(o.frame->windowTitle(), QString::fromUtf8("\u2022Page"));
         QVERIFY(!page->edit->isReadOnly() && !page->spin->isReadOnly() && !page->plain->isReadOnly());

@@ -595,6 +595,12 @@ OrvMessageDialog::Button OrvDialog::askApplyDiscardCancel()
 
 bool OrvDialog::_apply()
 {
+    // Another party holds the topic: nothing of this page may be applied, whichever
+    // way the request comes (a button enabled before the lock, a shortcut, a caller).
+    if (!m_topicLockedBy.isEmpty()) {
+        m_logger.warn(logPrefix("_apply") + QStringLiteral(" refused: topic locked by %1").arg(m_topicLockedBy));
+        return false;
+    }
     const QPointer<OrvDialog> guard(this);
     // The requirements tell the user themselves what is missing.
     const bool complete = m_uiRequirements->checkRequirements(this);
@@ -758,6 +764,8 @@ void OrvDialog::slotLock(const QString& lockedBy)
     setUnchangeable(true);
     m_topicLockedBy = lockedBy;
     lock();
+    // Changes made before the lock stay on the page, but OK and Apply wait for it.
+    setStandardButtonsEnabled(false);
     retranslate();
 }
 
@@ -767,6 +775,7 @@ void OrvDialog::slotUnlock()
     setUnchangeable(m_closeOnly);
     m_topicLockedBy.clear();
     unlock();
+    setStandardButtonsEnabled(m_changesMade && !m_unchangeableDialog);
     retranslate();
 }
 
