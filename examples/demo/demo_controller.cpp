@@ -133,6 +133,7 @@ DemoController::DemoController(QObject* parent)
 
     connect(m_exercise, &Exercise::stateChanged, this, [this](Exercise::State state) {
         updateExerciseData();
+        updatePlanLock();
         m_eventLog->add(EventLogModel::Exercise, tr("Exercise state: %1").arg(Exercise::stateText(state)));
     });
     connect(m_exercise, &Exercise::phaseChanged, this, &DemoController::updateExerciseData);
@@ -355,8 +356,32 @@ void DemoController::onLockRequest(OrvDialog* page, const TopicInfo& topic)
     pages.removeAll(nullptr);
     if (!pages.contains(page))
         pages.append(page);
-    if (topic.topicName() == QLatin1String(ExerciseSetupPage::topicName) && !m_otherOperator.isEmpty())
-        page->slotLock(m_otherOperator);
+    if (topic.topicName() == QLatin1String(ExerciseSetupPage::topicName) && !planHolder().isEmpty())
+        page->slotLock(planHolder());
+}
+
+QString DemoController::planHolder() const
+{
+    if (!m_otherOperator.isEmpty())
+        return m_otherOperator;
+    // Outside the states in which its menu entry shows, the plan is the running exercise's.
+    if (!(m_exercise->state() & kPlanEditable))
+        return tr("the running exercise");
+    return QString();
+}
+
+void DemoController::updatePlanLock()
+{
+    const QString holder = planHolder();
+    const auto pages = m_topicPages.value(QLatin1String(ExerciseSetupPage::topicName));
+    for (const QPointer<OrvDialog>& page : pages) {
+        if (!page)
+            continue;
+        if (holder.isEmpty())
+            page->slotUnlock();
+        else
+            page->slotLock(holder);
+    }
 }
 
 void DemoController::simulateSecondOperator()
@@ -364,11 +389,7 @@ void DemoController::simulateSecondOperator()
     if (!m_otherOperator.isEmpty())
         return;
     m_otherOperator = QStringLiteral("Bravo");
-    const auto pages = m_topicPages.value(QLatin1String(ExerciseSetupPage::topicName));
-    for (const QPointer<OrvDialog>& page : pages) {
-        if (page)
-            page->slotLock(m_otherOperator);
-    }
+    updatePlanLock();
     m_eventLog->add(EventLogModel::Operator, tr("Operator %1 is editing the exercise plan").arg(m_otherOperator));
     notify(tr("Exercise plan locked"), tr("%1 is editing the plan; read-only for now.").arg(m_otherOperator),
            OrvNotificationBox::Warning, QStringLiteral("plan-lock"));
@@ -382,11 +403,7 @@ void DemoController::releaseSecondOperator()
     m_releaseTimer->stop();
     const QString holder = m_otherOperator;
     m_otherOperator.clear();
-    const auto pages = m_topicPages.value(QLatin1String(ExerciseSetupPage::topicName));
-    for (const QPointer<OrvDialog>& page : pages) {
-        if (page)
-            page->slotUnlock();
-    }
+    updatePlanLock();
     m_eventLog->add(EventLogModel::Operator, tr("Operator %1 released the exercise plan").arg(holder));
     notify(tr("Exercise plan released"), tr("%1 is done; you can edit the plan.").arg(holder), OrvNotificationBox::Info,
            QStringLiteral("plan-lock"));

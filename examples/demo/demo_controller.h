@@ -91,6 +91,10 @@ private:
     void updateExerciseData();
     void onStaple(OrvWidgets::OrvDialog* page);
     void onLockRequest(OrvWidgets::OrvDialog* page, const OrvWidgets::TopicInfo& topic);
+    // Who holds the exercise plan now (another operator, the running exercise), or empty.
+    QString planHolder() const;
+    // Locks or unlocks every open set-up page after planHolder().
+    void updatePlanLock();
     void notify(const QString& title, const QString& text, OrvWidgets::OrvNotificationBox::MessageType type,
                 const QString& identifier = QString());
     void serverRequest(QObject* context, const std::function<void()>& done);

@@ -162,6 +162,38 @@ private Q_SLOTS:
         QVERIFY(!page->hasUnsavedChanges());
     }
 
+    // A set-up page open when the exercise starts is the running exercise's: read-only,
+    // nothing to apply, until the exercise is back to a state that plans.
+    void planIsLockedWhileTheExerciseRuns()
+    {
+        Exercise* exercise = m_demo->exercise();
+        if (exercise->canReset())
+            QVERIFY(exercise->reset());
+        QVERIFY(exercise->canStart());
+        QVERIFY(m_demo->openEntry(QStringLiteral("plan.setup")));
+        OrvDialog* page = currentPage(shell(), eMainTab);
+        auto* name = page->findChild<QLineEdit*>(QStringLiteral("leName"));
+        auto* apply = page->getHelper()->findChild<QPushButton*>(QStringLiteral("pbApply"));
+        QTest::keyClicks(name, QStringLiteral(" II"));
+        QVERIFY(apply->isEnabled());
+        const QString before = exercise->name();
+
+        QVERIFY(exercise->start());
+        QVERIFY(name->isReadOnly());
+        QVERIFY(!apply->isEnabled());
+        QMetaObject::invokeMethod(page, "slotApply");
+        QCOMPARE(exercise->name(), before);
+        // The refusal is logged; here it was asked for.
+        QCOMPARE(g_problems.size(), 1);
+        QVERIFY(g_problems.takeFirst().contains(QLatin1String("refused: topic locked by the running exercise")));
+
+        QVERIFY(exercise->stop());
+        QVERIFY(!name->isReadOnly());
+        QVERIFY(apply->isEnabled());
+        apply->click();
+        QCOMPARE(exercise->name(), before + QStringLiteral(" II"));
+    }
+
     void slowServerRequestCoversThePage()
     {
         QVERIFY(m_demo->openEntry(QStringLiteral("run.log")));

@@ -184,32 +184,32 @@
         <translation>Abmelden am Sitzungsmanager.</translation>
     </message>
     <message>
-        <source>The plan is incomplete. &lt;a href='orv://OpenPage/plan.setup'&gt;Open it&lt;/a&gt;</source>
-        <translation>Der Plan ist unvollständig. &lt;a href='orv://OpenPage/plan.setup'&gt;Öffnen&lt;/a&gt;</translation>
+        <source>The plan is incomplete. &lt;a href=&apos;orv://OpenPage/plan.setup&apos;&gt;Open it&lt;/a&gt;</source>
+        <translation>Der Plan ist unvollständig. &lt;a href=&apos;orv://OpenPage/plan.setup&apos;&gt;Öffnen&lt;/a&gt;</translation>
     </message>
     <message>
-        <source>%1: %2, %3 events. &lt;a href='orv://OpenPage/run.log'&gt;Event log&lt;/a&gt;</source>
-        <translation>%1: %2, %3 Ereignisse. &lt;a href='orv://OpenPage/run.log'&gt;Protokoll&lt;/a&gt;</translation>
+        <source>%1: %2, %3 events. &lt;a href=&apos;orv://OpenPage/run.log&apos;&gt;Event log&lt;/a&gt;</source>
+        <translation>%1: %2, %3 Ereignisse. &lt;a href=&apos;orv://OpenPage/run.log&apos;&gt;Protokoll&lt;/a&gt;</translation>
     </message>
     <message>
         <source>All participants are reporting.</source>
         <translation>Alle Teilnehmer melden sich.</translation>
     </message>
     <message>
-        <source>Participant 19 has joined. &lt;a href='orv://ParticipantInfo/19'&gt;Show&lt;/a&gt;</source>
-        <translation>Teilnehmer 19 ist beigetreten. &lt;a href='orv://ParticipantInfo/19'&gt;Anzeigen&lt;/a&gt;</translation>
+        <source>Participant 19 has joined. &lt;a href=&apos;orv://ParticipantInfo/19&apos;&gt;Show&lt;/a&gt;</source>
+        <translation>Teilnehmer 19 ist beigetreten. &lt;a href=&apos;orv://ParticipantInfo/19&apos;&gt;Anzeigen&lt;/a&gt;</translation>
     </message>
     <message>
         <source>Plan sent to all work stations.</source>
         <translation>Plan an alle Arbeitsplätze verteilt.</translation>
     </message>
     <message>
-        <source>Participant 42: low supplies. &lt;a href='orv://ParticipantInfo/42'&gt;Show&lt;/a&gt;</source>
-        <translation>Teilnehmer 42: Versorgung knapp. &lt;a href='orv://ParticipantInfo/42'&gt;Anzeigen&lt;/a&gt;</translation>
+        <source>Participant 42: low supplies. &lt;a href=&apos;orv://ParticipantInfo/42&apos;&gt;Show&lt;/a&gt;</source>
+        <translation>Teilnehmer 42: Versorgung knapp. &lt;a href=&apos;orv://ParticipantInfo/42&apos;&gt;Anzeigen&lt;/a&gt;</translation>
     </message>
     <message>
-        <source>WS-03 does not answer. &lt;a href='orv://OpenPage/run.log'&gt;Event log&lt;/a&gt;</source>
-        <translation>WS-03 antwortet nicht. &lt;a href='orv://OpenPage/run.log'&gt;Protokoll&lt;/a&gt;</translation>
+        <source>WS-03 does not answer. &lt;a href=&apos;orv://OpenPage/run.log&apos;&gt;Event log&lt;/a&gt;</source>
+        <translation>WS-03 antwortet nicht. &lt;a href=&apos;orv://OpenPage/run.log&apos;&gt;Protokoll&lt;/a&gt;</translation>
     </message>
     <message>
         <source>%1 is editing the plan; read-only for now.</source>
@@ -218,6 +218,10 @@
     <message>
         <source>%1 is done; you can edit the plan.</source>
         <translation>%1 ist fertig; Sie können wieder planen.</translation>
+    </message>
+    <message>
+        <source>the running exercise</source>
+        <translation>die laufende Übung</translation>
     </message>
 </context>
 <context>
@@ -544,7 +548,7 @@
         <translation>Aktualisierungen pro Minute:</translation>
     </message>
     <message>
-        <source>13 is not available: it collides with the server's cycle.</source>
+        <source>13 is not available: it collides with the server&apos;s cycle.</source>
         <translation>13 ist nicht verfügbar: Sie kollidiert mit dem Takt des Servers.</translation>
     </message>
     <message>
