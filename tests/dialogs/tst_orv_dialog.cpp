@@ -258,6 +258,24 @@ private Q_SLOTS:
         QTRY_VERIFY(!o.frame);
     }
 
+    void frameDeletesOnlyAPageStillInside_data()
+    {
+        QTest::addColumn<bool>("takenOut");
+        QTest::newRow("inside") << false;
+        QTest::newRow("taken out") << true;
+    }
+    void frameDeletesOnlyAPageStillInside()
+    {
+        QFETCH(bool, takenOut);
+        QWidget elsewhere;
+        auto* frame = new Opened;
+        QPointer<Page> page = frame->page;
+        if (takenOut)
+            page->setParent(&elsewhere);
+        delete frame;
+        QCOMPARE(page.isNull(), !takenOut);
+    }
+
     void lockAndUnlock()
     {
         Opened o;

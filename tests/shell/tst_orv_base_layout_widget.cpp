@@ -50,6 +50,47 @@ class TestOrvBaseLayoutWidget : public QObject
 private Q_SLOTS:
     void init() { OrvSessionData::OrvSessionData::getInstance()->setOperatorRights(0); }
 
+    // A collapsed dialog or info section opens when a page is added to it or a refused
+    // duplicate is focused there: the operator must see the page asked for.
+    void collapsedSectionOpens_data()
+    {
+        QTest::addColumn<int>("area");
+        QTest::addColumn<QString>("splitter");
+        QTest::addColumn<bool>("duplicate");
+        QTest::newRow("dialog, second page") << int(eDialogTab) << "mainSplitter" << false;
+        QTest::newRow("dialog, duplicate") << int(eDialogTab) << "mainSplitter" << true;
+        QTest::newRow("info, second page") << int(eInfoTab) << "masterSplitter" << false;
+        QTest::newRow("info, duplicate") << int(eInfoTab) << "masterSplitter" << true;
+    }
+    void collapsedSectionOpens()
+    {
+        QFETCH(int, area);
+        QFETCH(QString, splitter);
+        const QString splitterName = splitter;
+        QFETCH(bool, duplicate);
+        Shell shell;
+        shell.resize(1600, 1000);
+        shell.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&shell));
+        QVERIFY(shell.addWidget(new Page, "G", "first", LayoutArea(area), true, true));
+        auto* split = shell.findChild<QSplitter*>(splitterName);
+        QWidget* section = shell.getTabFromLayoutArea(LayoutArea(area));
+        const int index = split->indexOf(section);
+        QVERIFY(index >= 0);
+        QList<int> sizes = split->sizes();
+        sizes[index] = 0;
+        split->setSizes(sizes);
+        QCOMPARE(split->sizes().at(index), 0);
+
+        if (duplicate) {
+            auto* second = new Page;
+            QVERIFY(!shell.addWidget(second, "G", "first", LayoutArea(area), true, true));
+        } else {
+            QVERIFY(shell.addWidget(new Page, "H", "second", LayoutArea(area), true, true));
+        }
+        QTRY_VERIFY(split->sizes().at(index) > 50);
+    }
+
     void areasAndBadInput()
     {
         Shell shell;

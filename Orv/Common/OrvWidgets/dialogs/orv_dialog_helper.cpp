@@ -49,7 +49,10 @@ OrvDialogHelper::~OrvDialogHelper()
     // destructor never sees a half-destroyed frame.
     if (m_dialog) {
         disconnect(m_dialog, nullptr, this, nullptr);
-        delete m_dialog.data();
+        // Only a page still inside the frame goes with it; one that was taken out
+        // (re-parented elsewhere) belongs to its new parent now.
+        if (isAncestorOf(m_dialog))
+            delete m_dialog.data();
     }
     // Closing the window in the base destructor hides the scroll bars; their
     // reports must not reach the frame any more.

@@ -125,25 +125,63 @@ OrvTabWidget* OrvBaseLayoutWidget::getTabFromLayoutArea(LayoutArea area) const
     return nullptr;
 }
 
+namespace {
+
+// Opens the collapsed section at index with an animation, to its preferred size but at
+// most a third of the splitter, taking the room from the largest other section; the
+// handle flashes to draw the eye there.
+void animateSectionOpen(OrvSplitter* splitter, int index)
+{
+    const QList<int> from = splitter->sizes();
+    QList<int> to = from;
+    const bool horizontal = splitter->orientation() == Qt::Horizontal;
+    int total = 0;
+    for (const int size : from)
+        total += size;
+    QWidget* section = splitter->widget(index);
+    section->show();
+    const int preferred = horizontal ? qMax(section->sizeHint().width(), section->minimumWidth())
+                                     : qMax(section->sizeHint().height(), section->minimumHeight());
+    const int want = qBound(1, preferred > 0 ? preferred : total / 3, qMax(1, total / 3));
+    int largest = -1;
+    for (int i = 0; i < to.size(); ++i) {
+        if (i != index && (largest < 0 || to.at(i) > to.at(largest)))
+            largest = i;
+    }
+    if (largest < 0)
+        return;
+    const int taken = qMin(want, to.at(largest));
+    to[largest] -= taken;
+    to[index] += taken;
+    auto* animation = new QPropertyAnimation(splitter, "sizes", splitter);
+    animation->setDuration(300);
+    animation->setStartValue(QVariant::fromValue(from));
+    animation->setEndValue(QVariant::fromValue(to));
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+    splitter->animate(index);
+}
+
+} // namespace
+
 void OrvBaseLayoutWidget::openCollapsedSection(LayoutArea area, const char* logLine)
 {
+    OrvSplitter* splitter = nullptr;
+    int index = -1;
     if (area == eDialogTab) {
-        const int index = getIndexOfTab(m_ui->detailWidget);
-        const QList<int> sizes = m_ui->mainSplitter->sizes();
-        if (index >= 0 && index < sizes.size() && sizes.at(index) == 0) {
-            if (logLine)
-                qCDebug(lcShell) << logLine << sizes;
-            m_ui->mainSplitter->animate(index);
-        }
+        splitter = m_ui->mainSplitter;
+        index = getIndexOfTab(m_ui->detailWidget);
     } else if (area == eInfoTab) {
-        const int index = getIndexOfTab(m_ui->infoWidget);
-        const QList<int> sizes = m_ui->masterSplitter->sizes();
-        if (index >= 0 && index < sizes.size() && sizes.at(index) == 0) {
-            if (logLine)
-                qCDebug(lcShell) << logLine << sizes;
-            m_ui->masterSplitter->animate(index);
-        }
+        splitter = m_ui->masterSplitter;
+        index = getIndexOfTab(m_ui->infoWidget);
     }
+    if (!splitter)
+        return;
+    const QList<int> sizes = splitter->sizes();
+    if (index < 0 || index >= sizes.size() || sizes.at(index) != 0)
+        return;
+    if (logLine)
+        qCDebug(lcShell) << logLine << sizes;
+    animateSectionOpen(splitter, index);
 }
 
 bool OrvBaseLayoutWidget::addWidget(OrvDialog* dialog, const QString& menuGroup, const QString& identifier,
