@@ -526,6 +526,18 @@ private Q_SLOTS:
         QCOMPARE(tabs.count(), 0);
     }
 
+    // A page destroyed after another page took its key finds no entry: that is said,
+    // as for every removal that finds none, and the other page keeps the key.
+    void destroyedPageWhoseKeyWasRetakenIsReported()
+    {
+        OrvTabWidget tabs(nullptr, false);
+        Page* first = add(tabs, "G", "a");
+        Page* second = add(tabs, "G", "a");
+        QTest::ignoreMessage(QtWarningMsg, "OrvTabWidget::onRemoveTab: widget to remove was not on tab map!");
+        delete first->frame();
+        QCOMPARE(tabs.getWidget("G", "a"), second->frame());
+    }
+
     void closeButtonHitArea_data()
     {
         QTest::addColumn<QPoint>("release");

@@ -301,12 +301,9 @@ void OrvDragIcon::generateToolTip()
 {
     if (!m_toolButton)
         return;
-    if (m_text.isEmpty()) {
-        // No stale text or tip from an earlier name.
-        m_toolButton->setText(QString());
-        m_toolButton->setToolTip(QString());
+    // Without a text there is nothing to generate: the button keeps what it shows.
+    if (m_text.isEmpty())
         return;
-    }
     const QString tip = m_context.isEmpty() ? m_text : m_context + QStringLiteral(" - ") + m_text;
     m_toolButton->setText(m_text);
     m_toolButton->setToolTip(tip);

@@ -570,13 +570,18 @@ void OrvTabWidget::onWidgetDestroyed(QObject* object)
 {
     // A page being destroyed must not be touched: the stacked widget drops its tab
     // by itself once the child is gone, so only the key is forgotten here and the
-    // emptiness check waits for that.
+    // emptiness check waits for that. A key meanwhile taken by another page finds
+    // no entry, and says so as every other removal does.
+    bool found = false;
     for (auto it = m_tabMap.begin(); it != m_tabMap.end(); ++it) {
         if (it.value() == object) {
             m_tabMap.erase(it);
+            found = true;
             break;
         }
     }
+    if (!found)
+        qCWarning(lcContainers) << "OrvTabWidget::onRemoveTab: widget to remove was not on tab map!";
     QMetaObject::invokeMethod(this, &OrvTabWidget::onCheckTabBarVisibility, Qt::QueuedConnection);
 }
 

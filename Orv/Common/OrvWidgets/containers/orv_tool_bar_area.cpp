@@ -221,8 +221,9 @@ void OrvToolBarArea::addMenuEntry(OrvDragIcon* source, OrvDragIcon* target)
     OrvDragIcon* original = nullptr;
     const int own = m_buttonMap.indexOf(source);
     if (own >= 0) {
-        // A copy moved inside the bar; without a (different) target it stays.
-        if (!target || target == source)
+        // A copy moved inside the bar; without a target it stays. It is taken out
+        // before the target is looked for, so dropped onto itself it goes to the end.
+        if (!target)
             return;
         copy = m_buttonMap.takeAt(own);
         original = m_foreignButtonMap.takeAt(own);
