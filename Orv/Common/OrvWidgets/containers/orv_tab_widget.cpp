@@ -215,6 +215,8 @@ OrvTabWidget::OrvTabWidget(QWidget* parent, bool isSecondary)
 
     setTabBar(new OrvTabBar(isSecondary, this));
     applyBarFont(m_tabbar, m_tabbar->font(), isSecondary);
+    // The tab bar is the stop for Tab; the tab widget itself would be an empty one.
+    setFocusPolicy(Qt::NoFocus);
 
     connect(this, &QTabWidget::currentChanged, this, &OrvTabWidget::slotCurrentChanged);
 

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QScrollArea>
 #include <QLayout>
 #include <QResizeEvent>
 #include <QToolTip>
@@ -58,6 +59,12 @@ int OrvToolBox::indexOfTabButton(const QObject* button) const
 void OrvToolBox::itemInserted(int index)
 {
     QToolBox::itemInserted(index);
+    // Each page sits in a scroll area of the tool box; it is no stop of its own for Tab,
+    // the buttons on the page are.
+    if (QWidget* page = widget(index)) {
+        if (auto* area = qobject_cast<QScrollArea*>(page->parentWidget() ? page->parentWidget()->parentWidget() : nullptr))
+            area->setFocusPolicy(Qt::NoFocus);
+    }
     if (QAbstractButton* button = tabButton(index)) {
         button->setFocusPolicy(Qt::TabFocus);
         button->installEventFilter(this);
